@@ -1,0 +1,22 @@
+// Comparing texts as the host language does it: in the user's locale, without regard to case.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace vellora {
+
+/// Text comparison of the host. One instance serves the whole process.
+class TextCompare {
+public:
+    virtual ~TextCompare() = default;
+
+    /// A key such that comparing two keys by code unit orders their texts in the user's locale, case
+    /// ignored; equal keys mean equal texts.
+    virtual std::u16string sort_key(std::u16string_view text) const = 0;
+    /// The text with case folded away, of the same length: two texts are equal without regard to case
+    /// when their folded forms are equal by code unit.
+    virtual std::u16string fold(std::u16string_view text) const = 0;
+};
+
+} // namespace vellora
