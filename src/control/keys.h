@@ -1,0 +1,15 @@
+// Virtual key codes the control acts on. Source: the platform's public header winuser.h.
+#pragma once
+
+#include <cstdint>
+
+namespace vellora::key {
+
+inline constexpr std::int16_t backspace = 8;
+inline constexpr std::int16_t enter = 13;
+inline constexpr std::int16_t up = 38;
+inline constexpr std::int16_t down = 40;
+inline constexpr std::int16_t del = 46;
+inline constexpr std::int16_t f4 = 115;
+
+} // namespace vellora::key

@@ -1,0 +1,191 @@
+#include "dropdown/drop_down.h"
+
+#include "columns/column_auto_size.h"
+#include "columns/column_set.h"
+#include "dropdown/floating_window.h"
+#include "dropdown/open_list.h"
+#include "dropdown/placement.h"
+#include "runtime/host_error.h"
+#include "textfield/whole_text.h"
+#include "widgets/form_watch.h"
+
+namespace vellora {
+
+namespace {
+
+// Marlett draws an up and a down arrow for these.
+constexpr std::u16string_view up_arrow = u"5";
+constexpr std::u16string_view down_arrow = u"6";
+
+} // namespace
+
+DropDown::DropDown(ControlCore& core, Placement& placement, ColumnSet& columns, ColumnAutoSize& column_sizes,
+                   FloatingWindow& window, FormWatch& form_watch)
+    : core_(core), placement_(placement), columns_(columns), column_sizes_(column_sizes), window_(window),
+      form_watch_(form_watch) {}
+
+void DropDown::ShowList() { core_.parts.chkDropDown[0]->set_value(1); }
+
+void DropDown::HideList() {
+    subCloseDropDown();
+    set_button_caption(false);
+}
+
+void DropDown::chkDropDown_Click(int Index) {
+    if (click_busy_) {
+        return;
+    }
+    const RaisedFlag busy(click_busy_);
+    core_.parts.chkDropDown[0]->set_visible(false);
+    core_.parts.chkDropDown[1]->set_visible(false);
+    show_button_state(Index);
+    try {
+        open_or_leave();
+    } catch (const HostError&) {
+        settle_button();
+        throw;
+    }
+    settle_button();
+}
+
+void DropDown::show_button_state(int Index) {
+    CheckButton& decisive = *core_.parts.chkDropDown[0];
+    CheckButton& other = *core_.parts.chkDropDown[1];
+    if (core_.state.mlButtonStyle == vlToggle) {
+        set_button_caption(decisive.value() == 1);
+        decisive.set_visible(true);
+    } else if (Index == 1) {
+        decisive.set_value(0);
+        decisive.set_visible(true);
+    } else {
+        other.set_value(0);
+        other.set_visible(true);
+    }
+}
+
+void DropDown::open_or_leave() {
+    if (core_.parts.chkDropDown[0]->value() == 1 && !gbListOpen) {
+        subShowListView();
+    } else {
+        subFocusTextBox();
+    }
+}
+
+// A click that opened nothing, because another list was open or the opening failed, must not leave a pressed button.
+void DropDown::settle_button() {
+    if (core_.state.mlStatic_hWnd != 0) {
+        return;
+    }
+    core_.parts.chkDropDown[0]->set_visible(true);
+    core_.parts.chkDropDown[1]->set_visible(false);
+    core_.parts.chkDropDown[0]->set_value(0);
+    core_.parts.chkDropDown[1]->set_value(1);
+    set_button_caption(false);
+}
+
+void DropDown::set_button_caption(bool open) {
+    if (core_.state.mlButtonStyle == vlToggle) {
+        core_.parts.chkDropDown[0]->set_caption(open ? up_arrow : down_arrow);
+    }
+}
+
+void DropDown::chkDropDown_MouseDown() { core_.state.mbDropButtonDown = true; }
+
+void DropDown::chkDropDown_MouseUp() { core_.state.mbDropButtonDown = false; }
+
+void DropDown::subShowListView() {
+    const auto control = core_.user32.window_rect(core_.surface.window());
+    if (!control) {
+        return;
+    }
+    Bounds bounds = placement_.place(*control);
+    columns_.ensure_headers();
+    sort_if_dirty();
+    placement_.subSizeListView(bounds);
+    column_sizes_.size_for_opening();
+    columns_.collapse_hidden_columns();
+    select_whole_text(core_.live_text_box());
+    window_.subCreateDropDownWindow(bounds);
+    const WindowHandle floating = core_.state.mlStatic_hWnd;
+    if (floating == 0) {
+        return;
+    }
+    form_watch_.watch(core_.site.form_window());
+    core_.events.drop_down(DropDownState::open);
+    // The handler may have closed this list again, or even opened another one.
+    if (core_.state.mlStatic_hWnd == floating) {
+        gbListOpen = true;
+    }
+}
+
+void DropDown::sort_if_dirty() {
+    if (core_.state.mbListDirty) {
+        core_.parts.ListView1.refresh();
+        core_.state.mbListDirty = false;
+    }
+}
+
+void DropDown::subCloseDropDown() {
+    core_.parts.chkDropDown[0]->set_visible(true);
+    core_.parts.chkDropDown[1]->set_visible(false);
+    core_.parts.chkDropDown[0]->set_value(0);
+    core_.parts.chkDropDown[1]->set_value(1);
+    subHideListView();
+}
+
+void DropDown::subHideListView() {
+    if (core_.state.mlStatic_hWnd == 0) {
+        return;
+    }
+    form_watch_.stop();
+    window_.tear_down();
+    core_.events.drop_down(DropDownState::closed);
+    gbListOpen = false;
+}
+
+void DropDown::subFocusTextBox() {
+    if (focus_taken_elsewhere_) {
+        return;
+    }
+    try {
+        core_.live_text_box().focus();
+    } catch (const HostError&) {
+        // An invisible or disabled text box cannot take the focus, and nobody waits for it.
+    }
+}
+
+void DropDown::list_lost_focus(WindowHandle gaining) {
+    const ChangedFlag taken(focus_taken_elsewhere_, is_elsewhere(gaining));
+    subCloseDropDown();
+}
+
+bool DropDown::is_elsewhere(WindowHandle window) const {
+    const WindowHandle own = core_.surface.window();
+    return window != 0 && !is_inside(window, own) && !is_inside(own, window);
+}
+
+bool DropDown::is_inside(WindowHandle window, WindowHandle ancestor) const {
+    while (window != 0 && window != ancestor) {
+        window = core_.user32.parent(window);
+    }
+    return window == ancestor;
+}
+
+void DropDown::UserControl_LostFocus() { subCloseDropDown(); }
+
+void DropDown::UserControl_ExitFocus() {
+    if (!core_.state.mbDropButtonDown) {
+        core_.live_text_box().set_selection_length(0);
+    }
+}
+
+void DropDown::abandon() {
+    if (core_.state.mlStatic_hWnd == 0) {
+        return;
+    }
+    form_watch_.stop();
+    window_.tear_down();
+    gbListOpen = false;
+}
+
+} // namespace vellora

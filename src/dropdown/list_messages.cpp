@@ -1,0 +1,57 @@
+#include "dropdown/list_messages.h"
+
+#include "dropdown/drop_down.h"
+#include "dropdown/modMessageHandler.h"
+#include "runtime/checked.h"
+
+namespace vellora {
+
+namespace {
+
+bool begins_track(std::int32_t code) {
+    return code == notification::header_begin_track_ansi || code == notification::header_begin_track_wide;
+}
+
+} // namespace
+
+ListMessages::ListMessages(ControlCore& core, modMessageHandler& module, DropDown& drop_down)
+    : core_(core), module_(module), drop_down_(drop_down) {}
+
+void ListMessages::MsgHandler_MessageRecieved(std::uint32_t uMsg, std::uintptr_t wParam, std::intptr_t lParam,
+                                              std::intptr_t& lRetVal) {
+    if (uMsg == message::kill_focus) {
+        drop_down_.list_lost_focus(static_cast<WindowHandle>(wParam));
+    } else if (uMsg == message::notify) {
+        header_notified(wParam, lParam, lRetVal);
+    }
+}
+
+void ListMessages::header_notified(std::uintptr_t wParam, std::intptr_t lParam, std::intptr_t& lRetVal) {
+    const WindowHandle list = core_.parts.ListView1.window();
+    lRetVal = module_.call_previous(list, message::notify, wParam, lParam);
+    const std::int32_t code = module_.notification(lParam).code;
+    const WindowHandle header = core_.user32.send_message(list, message::list_get_header, 0, 0);
+    if (header == 0) {
+        return;
+    }
+    if (code == notification::header_end_drag) {
+        column_dragged();
+    } else if (begins_track(code) && refuses_divider(header)) {
+        lRetVal = 1;
+    }
+}
+
+void ListMessages::column_dragged() {
+    core_.events.column_reorder();
+    if (core_.state.mlStatic_hWnd != 0) {
+        core_.user32.set_focus(core_.parts.ListView1.window());
+    }
+}
+
+bool ListMessages::refuses_divider(WindowHandle header) const {
+    const std::int32_t item = core_.user32.header_item_at(header, core_.user32.cursor());
+    const std::size_t slot = checked_slot(item + 1, maximum_columns);
+    return core_.state.mabColumnHidden[slot] || core_.state.mabColumnLocked[slot];
+}
+
+} // namespace vellora
