@@ -18,7 +18,9 @@ Control::Control(const ControlEnvironment& environment)
       MsgHandler_(environment.message_module, *wiring_),
       floating_window_(core_, placement_, resize_frame_, selection_, MsgHandler_),
       drop_down_(core_, placement_, columns_, column_sizes_, floating_window_, environment.form_watch),
-      text_field_(core_, object_, selection_, drop_down_) {
+      text_field_(core_, object_, selection_, drop_down_),
+      persistence_(core_, {object_, appearance_, text_properties_, columns_, placement_, check_boxes_,
+                           selection_}) {
     object_.Initialize();
     MsgHandler_.AddMessage(message::kill_focus);
     MsgHandler_.AddMessage(message::notify);

@@ -9,6 +9,7 @@
 #include "control/control_object.h"
 #include "control/core.h"
 #include "control/layout.h"
+#include "control/persistence.h"
 #include "dropdown/clsMsgHandler.h"
 #include "dropdown/drop_down.h"
 #include "dropdown/floating_window.h"
@@ -64,6 +65,7 @@ public:
     DropDown& drop_down() { return drop_down_; }
     TextField& text_field() { return text_field_; }
     TextProperties& text_properties() { return text_properties_; }
+    Persistence& persistence() { return persistence_; }
 
 private:
     class Wiring;
@@ -89,6 +91,7 @@ private:
     FloatingWindow floating_window_;
     DropDown drop_down_;
     TextField text_field_;
+    Persistence persistence_;
 };
 
 } // namespace vellora
