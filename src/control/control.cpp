@@ -12,7 +12,7 @@ Control::Control(const ControlEnvironment& environment)
       layout_(core_), columns_(core_), column_sizes_(core_, columns_),
       column_order_(core_, columns_), items_(core_, object_, columns_),
       selection_(core_, object_, drop_down_), check_boxes_(core_), sort_and_search_(core_),
-      placement_(core_), resize_frame_(core_),
+      placement_(core_), resize_frame_(core_), resize_grip_(core_, resize_frame_),
       list_messages_(core_, environment.message_module, drop_down_),
       wiring_(std::make_unique<Wiring>(*this, environment.form_watch)),
       MsgHandler_(environment.message_module, *wiring_),

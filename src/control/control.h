@@ -16,6 +16,7 @@
 #include "dropdown/list_messages.h"
 #include "dropdown/placement.h"
 #include "dropdown/resize_frame.h"
+#include "dropdown/resize_grip.h"
 #include "items/check_boxes.h"
 #include "items/item_store.h"
 #include "items/selection.h"
@@ -63,6 +64,7 @@ public:
     ColumnOrder& column_order() { return column_order_; }
     Placement& placement() { return placement_; }
     DropDown& drop_down() { return drop_down_; }
+    ResizeGrip& resize_grip() { return resize_grip_; }
     TextField& text_field() { return text_field_; }
     TextProperties& text_properties() { return text_properties_; }
     Persistence& persistence() { return persistence_; }
@@ -85,6 +87,7 @@ private:
     SortAndSearch sort_and_search_;
     Placement placement_;
     ResizeFrame resize_frame_;
+    ResizeGrip resize_grip_;
     ListMessages list_messages_;
     std::unique_ptr<Wiring> wiring_;
     clsMsgHandler MsgHandler_;

@@ -16,6 +16,9 @@ void Control::Wiring::connect(bool on) {
     for (CheckButton* button : parts.chkDropDown) {
         button->listen(on ? this : nullptr);
     }
+    for (Label* half : parts.lblShangle) {
+        half->listen(on ? this : nullptr);
+    }
     parts.ListView1.listen(on ? this : nullptr);
     control_.core_.surface.listen(on ? this : nullptr);
     form_watch_.listen(on ? this : nullptr);
@@ -104,6 +107,21 @@ void Control::Wiring::list_key_down(std::int16_t& key_code, std::int16_t shift) 
 void Control::Wiring::list_key_press(std::int16_t& key_ascii) {
     const auto held = hold();
     control_.selection_.list_key_press(key_ascii);
+}
+
+void Control::Wiring::label_pressed(std::int16_t button) {
+    const auto held = hold();
+    control_.resize_grip_.lblShangle_MouseDown(button);
+}
+
+void Control::Wiring::label_mouse_moved() {
+    const auto held = hold();
+    control_.resize_grip_.lblShangle_MouseMove();
+}
+
+void Control::Wiring::label_released() {
+    const auto held = hold();
+    control_.resize_grip_.lblShangle_MouseUp();
 }
 
 void Control::Wiring::surface_resized() {

@@ -12,6 +12,7 @@ namespace vellora {
 class Control::Wiring final : public TextBoxListener,
                               public CheckButtonListener,
                               public ListViewListener,
+                              public LabelListener,
                               public SurfaceListener,
                               public FormWatchListener,
                               public MessageRecievedListener {
@@ -45,6 +46,10 @@ private:
     void list_item_checked(std::int32_t row) override;
     void list_key_down(std::int16_t& key_code, std::int16_t shift) override;
     void list_key_press(std::int16_t& key_ascii) override;
+
+    void label_pressed(std::int16_t button) override;
+    void label_mouse_moved() override;
+    void label_released() override;
 
     void surface_resized() override;
     void surface_lost_focus() override;
