@@ -1,0 +1,37 @@
+# The usage text.
+# shellcheck shell=bash
+
+cmd_help() {
+    cat <<'TEXT'
+usage: ./vellora COMMAND
+
+  build [x86|x64|native]...     compile; without a name x86 and x64. Leaves
+                                dist/ARCH/VelloraCTL.ocx and its symbols.
+                                native is the portable code with sanitizers.
+  test [OPTIONS]                build and run the tests
+      --ring native|com|screen  only this ring (may be repeated)
+      --arch x86|x64|all        only this kind of library
+      --filter PATTERN          only tests whose name contains PATTERN
+      --keep                    leave display and Wine running for a look
+  wine [--64] PROGRAM [ARGS]    run a Windows program in the test bed; its exit
+                                code is handed back (the low eight bits)
+  demo                          show the demonstration; without a display it
+                                plays itself and leaves pictures
+  bench [ARGS]                  run the benchmark
+  help                          this text
+
+The whole output of the last run's tests is in build/results. Runs have prefixes
+of their own, so several may go on at the same time.
+
+Every command first sets up what it needs, once: packages of the distribution,
+and for 32-bit programs a private root with the 32-bit Wine in the cache folder.
+
+variables:
+  VELLORA_CACHE      where the test bed is kept (~/.cache/vellora)
+  VELLORA_DPI        dots per inch for programs: 96 (default), 120 or 144
+  VELLORA_ARTIFACTS  where pictures go (build/artifacts/ARCH, with another
+                     resolution build/artifacts/ARCH-DPI)
+  WINEDEBUG          Wine's own messages (-all: none)
+  CI                 when set, print only what failed and the sums
+TEXT
+}

@@ -1,0 +1,56 @@
+# Ring com: test programs and scripts against the registered library.
+# shellcheck shell=bash
+
+SCRIPT_END="# end of script"
+
+ring_com() {
+    local arch=$1 program script
+    VELLORA_OCX=$(library_path "$arch")
+    export VELLORA_OCX
+    for program in "$VELLORA_ROOT/build/$arch"/tests/*_tests.exe; do
+        [ -f "$program" ] || continue
+        # shellcheck disable=SC2046
+        gtest_suite "$arch" "$program" "$VELLORA_ROOT/vellora" wine $(wide "$arch") "$program"
+    done
+    for script in "$VELLORA_ROOT"/tests/com/*.vbs; do
+        if [ -f "$script" ] && [[ ${script##*/} == *${TEST_FILTER//\*/}* ]]; then
+            script_suite "$arch" "$script"
+        fi
+    done
+}
+
+wide() { [ "$1" = x86 ] || echo --64; }
+
+# script_suite ARCH SCRIPT - counts the lines "ok NAME" and "not ok NAME: why".
+# An error in a script ends it silently and with code 0, so what runs is a copy
+# that says when its end was reached.
+script_suite() {
+    local arch=$1 name=${2##*/} started=$SECONDS code=0 copy log passed failed
+    copy=$SEAT/results/$arch/$name
+    log=$copy.log
+    mkdir -p -- "${log%/*}"
+    { tr -d '\r' <"$2"; printf '\nWScript.Echo "%s"\n' "$SCRIPT_END"; } | sed 's/$/\r/' >"$copy"
+    # shellcheck disable=SC2046
+    timeout -k 5 "$TEST_SECONDS" "$VELLORA_ROOT/vellora" wine $(wide "$arch") cscript.exe //nologo \
+        "$(windows_path "$copy")" >"$log" 2>&1 </dev/null || code=$?
+    passed=$(grep -c '^ok ' "$log" || true)
+    failed=$(grep -c '^not ok ' "$log" || true)
+    if script_complete "$log" "$code" $((passed + failed)) "$failed"; then
+        suite_line "$arch" "$name" "$passed" "$failed" 0 $((SECONDS - started))
+        { grep '^not ok ' "$log" || true; } | tr -d '\r' | sed 's/^/    /'
+    else
+        suite_line "$arch" "$name" "$passed" $((failed + 1)) 0 $((SECONDS - started))
+        if [ $((passed + failed)) -gt 0 ] || [ "$code" -ne 0 ]; then
+            show_exit "$code"
+        else
+            echo '    it printed no line "ok NAME" or "not ok NAME: why"'
+        fi
+        show_tail "$log" 20
+    fi
+    [ "$code" -lt 124 ] || renew_server "$arch"
+}
+
+# script_complete LOG CODE LINES FAILED - whether it tested all it wanted to.
+script_complete() {
+    [ "$3" -gt 0 ] && grep -q "^$SCRIPT_END" "$1" && { [ "$2" -eq 0 ] || [ "$4" -gt 0 ]; }
+}

@@ -1,0 +1,159 @@
+# Running a Windows program: 32-bit ones in the private root, 64-bit ones with
+# the system's own Wine.
+# shellcheck shell=bash
+
+# What a program started by hand runs in; a test run has a seat of its own.
+SEAT=${VELLORA_SEAT:-$CACHE/seat/main}
+
+cmd_wine() {
+    local arch=x86
+    if [ "${1:-}" = --64 ]; then arch=x64; shift; fi
+    [ $# -gt 0 ] || die 'wine needs a program: ./vellora wine [--64] PROGRAM [ARGUMENTS]'
+    # A seat that is in use is complete: nothing to look after.
+    [ -n "${VELLORA_SEAT:-}" ] || need_bed "$arch"
+    # Wine would say nothing at all about a program that is not there.
+    case $1 in ?:*) ;; */*) [ -e "$1" ] || { say "vellora: there is no program $1"; exit 127; } ;; esac
+    need_server "$arch"
+    bed_exec "$arch" "$@"
+}
+
+# need_bed ARCH... - everything that running programs takes.
+need_bed() {
+    local arch
+    # shellcheck disable=SC2046,SC2086
+    need_packages $(for arch in "$@"; do
+        if [ "$arch" = x86 ]; then echo $PACKAGES_BED32; else echo $PACKAGES_BED64; fi; done)
+    for arch in "$@"; do
+        [ "$arch" != x86 ] || need_root
+        need_template "$arch"
+    done
+}
+
+check_resolution() {
+    case ${VELLORA_DPI:=96} in
+        96|120|144) ;;
+        *) die "VELLORA_DPI is '$VELLORA_DPI'; it may be 96, 120 or 144." ;;
+    esac
+    export VELLORA_DPI
+}
+
+prefix_of() { printf '%s/%s-%s' "$SEAT" "$1" "$VELLORA_DPI"; }
+
+# bed_run ARCH PROGRAM [ARGUMENTS] - runs it in the current seat.
+bed_run() { (bed_exec "$@"); }
+
+bed_exec() {
+    local arch=$1 prefix
+    prefix=$(prefix_of "$arch")
+    shift
+    prefix_exec "$arch" "$prefix" "$@"
+}
+
+# in_prefix ARCH PREFIX PROGRAM [ARGUMENTS]
+in_prefix() { (prefix_exec "$@"); }
+
+prefix_exec() {
+    local arch=$1
+    wine_environment "$arch" "$2"
+    shift 2
+    if [ "$arch" = x86 ]; then
+        root_arguments
+        exec bwrap "${ROOT_ARGUMENTS[@]}" /usr/lib/wine/wine "$@"
+    fi
+    exec /usr/lib/wine/wine64 "$@"
+}
+
+wine_environment() {
+    export WINEPREFIX=$2 WINEDEBUG=${WINEDEBUG:--all} LC_ALL=C.UTF-8
+    # Here Wine puts the socket of its server: with the prefix, wherever the
+    # user's temporary folder is at the moment.
+    export TMPDIR=$2/servers
+    [ -d "$TMPDIR" ] || mkdir -p -- "$TMPDIR"
+    # No questions about Mono and Gecko.
+    export WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-mscoree,mshtml=}
+    unset LD_PRELOAD LD_LIBRARY_PATH WINELOADER WINESERVER WINEDLLPATH LANG LANGUAGE
+    if [ "$1" = x86 ]; then
+        export WINEARCH=win32
+    else
+        # The same fonts as in the 32-bit root, whatever else is installed.
+        export WINEARCH=win64 FONTCONFIG_FILE=$VELLORA_ROOT/tools/bed/fonts.conf
+    fi
+}
+
+# server_run ARCH PREFIX [OPTIONS] - talks to the prefix's wineserver.
+server_run() (
+    local arch=$1
+    wine_environment "$arch" "$2"
+    shift 2
+    if [ "$arch" = x86 ]; then
+        root_arguments
+        exec bwrap "${ROOT_ARGUMENTS[@]}" "$(wine_server "$(root_folder)" 32)" "$@"
+    fi
+    exec "$(wine_server '' 64)" "$@"
+)
+
+# wine_server ROOT BITS - later Wines have a single one for both.
+wine_server() {
+    if [ -x "$1/usr/lib/wine/wineserver$2" ]; then
+        printf '/usr/lib/wine/wineserver%s' "$2"
+    else
+        printf /usr/lib/wine/wineserver
+    fi
+}
+
+stop_server() { [ ! -d "$2" ] || server_run "$1" "$2" -k >/dev/null 2>&1 || true; }
+wait_server() { server_run "$1" "$2" -w; }
+
+# need_server ARCH - Wine's background processes keep the output of whoever
+# started them open. So they are started apart, before the first program.
+need_server() {
+    local arch=$1 prefix
+    prefix=$(prefix_of "$arch")
+    need_prefix "$arch" "$VELLORA_DPI" "$prefix"
+    server_run "$arch" "$prefix" -k0 >/dev/null 2>&1 && return 0
+    start_server "$arch" "$prefix"
+}
+
+start_server() {
+    local arch=$1 prefix=$2
+    exec 6>>"$prefix/.starting"
+    flock 6
+    if ! server_run "$arch" "$prefix" -k0 >/dev/null 2>&1; then
+        # A run ends the servers of its seat; others end by themselves.
+        server_run "$arch" "$prefix" -p600 >/dev/null 2>&1 </dev/null 6>&- 7>&- 8>&-
+        in_prefix "$arch" "$prefix" cmd /c exit >/dev/null 2>&1 </dev/null 6>&- 7>&- 8>&-
+        [ -z "${VELLORA_REGISTER:-}" ] || register_library "$arch" 6>&- 7>&- 8>&-
+    fi
+    exec 6>&-
+}
+
+# root_arguments - sets ROOT_ARGUMENTS: how bubblewrap shows the machine.
+root_arguments() {
+    local root folder seen=() sorted
+    root=$(root_folder)
+    ROOT_ARGUMENTS=(--die-with-parent --bind "$root" / --dev-bind /dev /dev --proc /proc)
+    seen=(/tmp "$VELLORA_ROOT" "$CACHE" "$USER_TMPDIR" "${HOME:-/tmp}")
+    ! may_be_shown "$PWD" || seen+=("$PWD")
+    # Outer folders first: a later one may lie inside an earlier one.
+    mapfile -t sorted < <(printf '%s\n' "${seen[@]}" | sort -u)
+    for folder in "${sorted[@]}"; do
+        case $folder in /|'') continue ;; esac
+        [ ! -d "$folder" ] || ROOT_ARGUMENTS+=(--bind "$folder" "$folder")
+    done
+    for folder in /usr/share/zoneinfo /usr/share/unicode; do
+        [ ! -d "$folder" ] || ROOT_ARGUMENTS+=(--ro-bind "$folder" "$folder")
+    done
+    if [ -n "${XAUTHORITY:-}" ] && [ -f "$XAUTHORITY" ]; then
+        ROOT_ARGUMENTS+=(--ro-bind "$XAUTHORITY" "$XAUTHORITY")
+    fi
+    folder=$PWD
+    may_be_shown "$PWD" || [ -d "$root$PWD" ] || folder=/
+    ROOT_ARGUMENTS+=(--chdir "$folder")
+}
+
+# may_be_shown FOLDER - the root's own system folders stay as they are.
+may_be_shown() {
+    case $1/ in
+        //|/bin/*|/boot/*|/dev/*|/etc/*|/lib*/*|/proc/*|/run/*|/sbin/*|/sys/*|/usr/*|/var/*) return 1 ;;
+    esac
+}
