@@ -1,0 +1,61 @@
+// The state behind `ListRows`: the rows and what is remembered about them. Shared by its source files only.
+#pragma once
+
+#include "runtime/host_error.h"
+#include "widgets/list_rows.h"
+#include "widgets/row_store.h"
+
+namespace vellora {
+
+struct SortSettings {
+    bool sorted = false;
+    SortOrder order = SortOrder::ascending;
+    std::int32_t column = 0;
+    bool operator==(const SortSettings&) const = default;
+};
+
+struct ListRows::Store {
+    explicit Store(const TextCompare& text_compare) : compare(text_compare) {}
+
+    const TextCompare& compare;
+    RowStore rows;
+    RowsObserver* observer = nullptr;
+    std::int32_t selected = -1;
+    SortSettings sort;
+
+    RowRecord& record(std::int32_t row) const {
+        if (row < 0 || row >= rows.count())
+            throw HostError(error_number::index_out_of_bounds);
+        return rows.record(row);
+    }
+    bool has_cell(std::int32_t row, std::int32_t column) const {
+        return column >= 0 && static_cast<std::uint32_t>(column) < record(row).texts.count();
+    }
+    std::uint32_t cell(std::int32_t row, std::int32_t column) const {
+        if (!has_cell(row, column))
+            throw HostError(error_number::index_out_of_bounds);
+        return static_cast<std::uint32_t>(column);
+    }
+
+    void report_rows() {
+        if (observer)
+            observer->rows_changed();
+    }
+    void report_row(std::int32_t row) {
+        if (observer)
+            observer->row_changed(row);
+    }
+    void report_selection() {
+        if (observer)
+            observer->selection_changed();
+    }
+
+    /// Takes the settings over and sorts where they say so.
+    void arrange(const SortSettings& settings);
+    void set_sort(const SortSettings& settings) {
+        if (settings != sort)
+            arrange(settings);
+    }
+};
+
+} // namespace vellora
