@@ -1,0 +1,23 @@
+// The window that floats above everything while a list is open. It is of the platform's "Static" class, by
+// which other software knows it; what such a window lacks as a container is added here.
+#pragma once
+
+#include "widgets/win32/handles.h"
+
+namespace vellora::win32 {
+
+class FloatingWindowListener {
+public:
+    /// The user asked to close the floating window. It stays unless the listener ends it; the same request
+    /// then goes on to the form.
+    virtual void close_requested() = 0;
+
+protected:
+    ~FloatingWindowListener() = default;
+};
+
+/// Creates the window, visible, for the control whose surface is `home`. Null when it cannot be made.
+/// `listener` may be null and is asked as long as the window stands.
+HWND create_floating_window(const RECT& place, HWND home, FloatingWindowListener* listener);
+
+} // namespace vellora::win32

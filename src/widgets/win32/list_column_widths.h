@@ -1,0 +1,33 @@
+// How wide a column has to be for what stands in it. The rows are measured where they are kept, since the window
+// would ask for every single one.
+#pragma once
+
+#include "widgets/column_measure.h"
+#include "widgets/win32/list_headers.h"
+
+namespace vellora::win32 {
+
+class ListColumnWidths {
+public:
+    ListColumnWidths(const ListWindow& window, const ListHeaders& headers, const ListRows& rows)
+        : window_(window), headers_(headers), measure_(rows) {}
+
+    /// Pixels, for a column that exists, counted from 0.
+    int for_content(std::int32_t column);
+    /// Content or caption, whichever is wider; the last column also takes what the others leave.
+    int for_content_and_header(std::int32_t column);
+    /// To be called when the list has another font.
+    void font_changed() { measure_.invalidate(); }
+
+private:
+    HFONT font() const;
+    int for_caption(std::int32_t column) const;
+    int icon_width(std::int32_t column) const;
+    int left_over(std::int32_t column) const;
+
+    const ListWindow& window_;
+    const ListHeaders& headers_;
+    ColumnMeasure measure_;
+};
+
+} // namespace vellora::win32

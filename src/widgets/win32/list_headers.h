@@ -1,0 +1,46 @@
+// The column headers of a list: their captions, tags and widths. Columns are counted from 0 here and widths are
+// pixels; a column that does not exist raises 35600.
+#pragma once
+
+#include "widgets/win32/list_window.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vellora::win32 {
+
+class ListHeaders {
+public:
+    explicit ListHeaders(const ListWindow& window) : window_(window) {}
+
+    std::int32_t count() const { return static_cast<std::int32_t>(headers_.size()); }
+    void clear();
+    void add(std::u16string_view text, int width);
+
+    const std::u16string& text(std::int32_t column) const { return at(column).text; }
+    void set_text(std::int32_t column, std::u16string_view text);
+    const std::u16string& tag(std::int32_t column) const { return at(column).tag; }
+    void set_tag(std::int32_t column, std::u16string_view tag) { at(column).tag = tag; }
+    int width(std::int32_t column) const;
+    void set_width(std::int32_t column, int width);
+
+    /// The window got, changed or lost a column by somebody else's message.
+    void inserted(std::int32_t column, std::u16string text);
+    void renamed(std::int32_t column, std::u16string text);
+    void removed(std::int32_t column);
+
+private:
+    struct Header {
+        std::u16string text;
+        std::u16string tag;
+    };
+    const Header& at(std::int32_t column) const;
+    Header& at(std::int32_t column);
+
+    const ListWindow& window_;
+    std::vector<Header> headers_;
+};
+
+} // namespace vellora::win32

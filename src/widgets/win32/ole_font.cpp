@@ -1,0 +1,158 @@
+#include "widgets/win32/ole_font.h"
+
+#include "runtime/host_error.h"
+#include "widgets/win32/wide_text.h"
+
+#include <atomic>
+#include <string>
+#include <utility>
+
+namespace vellora::win32 {
+
+using Microsoft::WRL::ComPtr;
+
+namespace {
+
+constexpr float currency_units = 10000; // a CY counts ten-thousandths
+
+/// Receives the font object's notices. The font object holds it, so it counts its own references.
+class ChangeSink final : public IPropertyNotifySink {
+public:
+    explicit ChangeSink(std::function<void()> changed) : changed_(std::move(changed)) {}
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
+        if (object == nullptr) {
+            return E_POINTER;
+        }
+        const bool known = id == IID_IUnknown || id == IID_IPropertyNotifySink;
+        *object = known ? static_cast<IPropertyNotifySink*>(this) : nullptr;
+        if (known) {
+            AddRef();
+        }
+        return known ? S_OK : E_NOINTERFACE;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
+    ULONG STDMETHODCALLTYPE Release() override {
+        const ULONG left = --references_;
+        if (left == 0) {
+            delete this;
+        }
+        return left;
+    }
+    HRESULT STDMETHODCALLTYPE OnChanged(DISPID) noexcept override {
+        try {
+            changed_();
+            return S_OK;
+        } catch (...) {
+            return E_FAIL;
+        }
+    }
+    HRESULT STDMETHODCALLTYPE OnRequestEdit(DISPID) override { return S_OK; }
+
+private:
+    ~ChangeSink() = default;
+
+    std::function<void()> changed_;
+    std::atomic<ULONG> references_{0};
+};
+
+[[noreturn]] void raise_no_font() {
+    throw HostError(error_number::invalid_property_value);
+}
+
+} // namespace
+
+OleFont::OleFont(ComPtr<IFontDisp> font) : dispatch_(std::move(font)) {
+    if (!dispatch_ || FAILED(dispatch_.As(&font_))) {
+        raise_no_font();
+    }
+}
+
+std::shared_ptr<OleFont> OleFont::create(std::u16string_view face, float points) {
+    std::u16string name(face);
+    FONTDESC description{};
+    description.cbSizeofstruct = sizeof description;
+    description.lpstrName = wide(name);
+    description.cySize.int64 = static_cast<LONGLONG>(points * currency_units);
+    description.sWeight = FW_NORMAL;
+    description.sCharset = DEFAULT_CHARSET;
+    ComPtr<IFontDisp> font;
+    if (FAILED(OleCreateFontIndirect(&description, IID_IFontDisp,
+                                     reinterpret_cast<void**>(font.GetAddressOf())))) {
+        raise_no_font();
+    }
+    return std::make_shared<OleFont>(std::move(font));
+}
+
+FontHandle::FontHandle(IFont* font) : font_(font) {
+    if (font_ && SUCCEEDED(font_->get_hFont(&handle_))) {
+        font_->AddRefHfont(handle_);
+    }
+}
+
+FontHandle::~FontHandle() {
+    if (handle_ != nullptr) {
+        font_->ReleaseHfont(handle_);
+    }
+}
+
+FontHandle::FontHandle(FontHandle&& other) noexcept
+    : font_(std::move(other.font_)), handle_(std::exchange(other.handle_, nullptr)) {}
+
+FontHandle& FontHandle::operator=(FontHandle&& other) noexcept {
+    std::swap(font_, other.font_);
+    std::swap(handle_, other.handle_);
+    return *this;
+}
+
+FontWatch::FontWatch(IFont* font, std::function<void()> changed) {
+    ComPtr<IConnectionPointContainer> container;
+    if (FAILED(font->QueryInterface(IID_IConnectionPointContainer,
+                                    reinterpret_cast<void**>(container.GetAddressOf()))) ||
+        FAILED(container->FindConnectionPoint(IID_IPropertyNotifySink, &point_))) {
+        return;
+    }
+    const ComPtr<IPropertyNotifySink> sink(new ChangeSink(std::move(changed)));
+    if (FAILED(point_->Advise(sink.Get(), &cookie_))) {
+        point_.Reset();
+    }
+}
+
+FontWatch::~FontWatch() {
+    if (point_) {
+        point_->Unadvise(cookie_);
+    }
+}
+
+FontWatch::FontWatch(FontWatch&& other) noexcept : point_(std::move(other.point_)), cookie_(other.cookie_) {}
+
+FontWatch& FontWatch::operator=(FontWatch&& other) noexcept {
+    std::swap(point_, other.point_);
+    std::swap(cookie_, other.cookie_);
+    return *this;
+}
+
+FontInUse::FontInUse(std::function<void(HFONT)> apply) : apply_(std::move(apply)) {}
+
+HFONT FontInUse::handle() const {
+    return handle_.get() != nullptr ? handle_.get() : static_cast<HFONT>(GetStockObject(DEFAULT_GUI_FONT));
+}
+
+void FontInUse::set(const FontRef& font) {
+    const auto ole_font = std::dynamic_pointer_cast<OleFont>(font);
+    if (font && !ole_font) {
+        raise_no_font();
+    }
+    font_ = font;
+    watch_ = ole_font ? FontWatch(ole_font->font(), [this] { renew(); }) : FontWatch();
+    renew();
+}
+
+void FontInUse::renew() {
+    const auto* ole_font = static_cast<const OleFont*>(font_.get());
+    FontHandle fresh(ole_font != nullptr ? ole_font->font() : nullptr);
+    std::swap(handle_, fresh);
+    apply_(handle());
+}
+
+} // namespace vellora::win32

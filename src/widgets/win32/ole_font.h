@@ -1,0 +1,84 @@
+// The host's font object, and its use by a window: the handle it stands for, renewed whenever somebody
+// changes a property of the object.
+#pragma once
+
+#include "widgets/font.h"
+
+#include <ocidl.h>
+#include <olectl.h>
+#include <windows.h>
+#include <wrl/client.h>
+
+#include <functional>
+#include <memory>
+#include <string_view>
+
+namespace vellora::win32 {
+
+class OleFont final : public Font {
+public:
+    /// Error 380 when the object is none, or no font that windows can use.
+    explicit OleFont(Microsoft::WRL::ComPtr<IFontDisp> font);
+    /// A font object of the platform's own. Error 380 when it cannot be made.
+    static std::shared_ptr<OleFont> create(std::u16string_view face, float points);
+
+    IFontDisp* dispatch() const { return dispatch_.Get(); }
+    IFont* font() const { return font_.Get(); }
+
+private:
+    Microsoft::WRL::ComPtr<IFontDisp> dispatch_;
+    Microsoft::WRL::ComPtr<IFont> font_;
+};
+
+/// The handle of a font object, kept alive while this stands. Null when the object gives none.
+class FontHandle {
+public:
+    FontHandle() = default;
+    explicit FontHandle(IFont* font);
+    ~FontHandle();
+    FontHandle(FontHandle&& other) noexcept;
+    FontHandle& operator=(FontHandle&& other) noexcept;
+    HFONT get() const { return handle_; }
+
+private:
+    Microsoft::WRL::ComPtr<IFont> font_;
+    HFONT handle_ = nullptr;
+};
+
+/// Calls back after every change of a font object's properties, until it ends. An object that does not
+/// tell about changes is no error.
+class FontWatch {
+public:
+    FontWatch() = default;
+    FontWatch(IFont* font, std::function<void()> changed);
+    ~FontWatch();
+    FontWatch(FontWatch&& other) noexcept;
+    FontWatch& operator=(FontWatch&& other) noexcept;
+
+private:
+    Microsoft::WRL::ComPtr<IConnectionPoint> point_;
+    DWORD cookie_ = 0;
+};
+
+/// The font of one window: held, and applied now and after every change of the font object.
+class FontInUse {
+public:
+    /// `apply` gets each new handle; the one before it is let go afterwards.
+    explicit FontInUse(std::function<void(HFONT)> apply);
+
+    const FontRef& font() const { return font_; }
+    /// The handle in use; the system's default font while there is none.
+    HFONT handle() const;
+    /// Error 380 for an object that is no OLE font; nothing means the system's default font.
+    void set(const FontRef& font);
+
+private:
+    void renew();
+
+    std::function<void(HFONT)> apply_;
+    FontRef font_;
+    FontHandle handle_;
+    FontWatch watch_;
+};
+
+} // namespace vellora::win32

@@ -1,0 +1,221 @@
+#include "widgets/win32/text_box_peer.h"
+
+#include "runtime/host_error.h"
+#include "widgets/win32/reflection.h"
+#include "widgets/win32/wide_text.h"
+
+#include <algorithm>
+
+namespace vellora::win32 {
+
+namespace {
+
+void check_not_negative(std::int32_t value) {
+    if (value < 0) {
+        throw HostError(error_number::invalid_property_value);
+    }
+}
+
+/// What a text box takes of a text: nothing from the first zero unit on, and no more than there is room for.
+std::u16string accepted_part(std::u16string_view text, std::size_t room) {
+    return std::u16string(text.substr(0, std::min(text.find(u'\0'), room)));
+}
+
+} // namespace
+
+TextBoxPeer::TextBoxPeer(SurfaceWindow& surface, TextAlignment alignment)
+    : alignment_(alignment), edit_(surface.handle(), alignment, *this),
+      input_(edit_, surface.focus_tracker()) {
+    font_.set(nullptr);
+}
+
+TextFace TextBoxPeer::face() const {
+    const auto margins = static_cast<DWORD>(edit_.send(EM_GETMARGINS));
+    return {window_place(edit_.handle()),
+            text(),
+            alignment_,
+            font_.handle(),
+            fore_color_,
+            back_color_,
+            enabled(),
+            LOWORD(margins),
+            HIWORD(margins)};
+}
+
+void TextBoxPeer::listen(TextBoxListener* listener) {
+    listener_ = listener;
+    input_.listen(listener);
+}
+
+std::u16string TextBoxPeer::text() const {
+    return edit_.handle() != nullptr ? window_text(edit_.handle()) : known_text_;
+}
+
+void TextBoxPeer::set_text(std::u16string_view text) {
+    const std::size_t room = max_length_ > 0 ? static_cast<std::size_t>(max_length_) : text.size();
+    const std::u16string accepted = accepted_part(text, room);
+    if (accepted == this->text()) {
+        return;
+    }
+    const Lifeline::Watch watch(lifeline_);
+    SetWindowTextW(edit_.handle(), wide(accepted));
+    if (watch.alive()) {
+        note_change();
+    }
+}
+
+TextBoxPeer::Selection TextBoxPeer::selection() const {
+    DWORD start = 0;
+    DWORD end = 0;
+    edit_.send(EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+    return {static_cast<std::int32_t>(start), static_cast<std::int32_t>(end)};
+}
+
+std::int32_t TextBoxPeer::selection_start() const {
+    return selection().start;
+}
+
+std::int32_t TextBoxPeer::selection_length() const {
+    const Selection now = selection();
+    return now.end - now.start;
+}
+
+std::u16string TextBoxPeer::selected_text() const {
+    const Selection now = selection();
+    const std::u16string whole = text();
+    const auto start = std::min(static_cast<std::size_t>(now.start), whole.size());
+    return whole.substr(start, static_cast<std::size_t>(now.end - now.start));
+}
+
+void TextBoxPeer::set_selection_start(std::int32_t start) {
+    check_not_negative(start);
+    const std::int32_t place = std::min(start, GetWindowTextLengthW(edit_.handle()));
+    edit_.send(EM_SETSEL, static_cast<WPARAM>(place), place);
+    edit_.send(EM_SCROLLCARET);
+}
+
+// The view stays where it is: selecting a long text whole must not scroll its beginning away.
+void TextBoxPeer::set_selection_length(std::int32_t length) {
+    check_not_negative(length);
+    const std::int32_t start = selection().start;
+    const std::int32_t rest = std::max(0, GetWindowTextLengthW(edit_.handle()) - start);
+    edit_.send(EM_SETSEL, static_cast<WPARAM>(start), start + std::min(length, rest));
+}
+
+std::size_t TextBoxPeer::room_for_selection() const {
+    if (max_length_ == 0) {
+        return std::u16string_view::npos;
+    }
+    const std::int32_t kept = GetWindowTextLengthW(edit_.handle()) - selection_length();
+    return static_cast<std::size_t>(std::max(0, max_length_ - kept));
+}
+
+void TextBoxPeer::set_selected_text(std::u16string_view text) {
+    const std::u16string accepted = accepted_part(text, room_for_selection());
+    edit_.send(EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(accepted.c_str()));
+}
+
+bool TextBoxPeer::locked() const {
+    return (GetWindowLongPtrW(edit_.handle(), GWL_STYLE) & ES_READONLY) != 0;
+}
+
+void TextBoxPeer::set_locked(bool locked) {
+    edit_.send(EM_SETREADONLY, locked);
+}
+
+void TextBoxPeer::set_max_length(std::int32_t length) {
+    check_not_negative(length);
+    max_length_ = length;
+    edit_.send(EM_SETLIMITTEXT, static_cast<WPARAM>(length));
+}
+
+void TextBoxPeer::set_fore_color(OleColor color) {
+    fore_color_ = checked_color(color);
+    redraw(edit_.handle());
+}
+
+void TextBoxPeer::set_back_color(OleColor color) {
+    back_color_ = checked_color(color);
+    redraw(edit_.handle());
+}
+
+void TextBoxPeer::focus() {
+    const HWND window = edit_.handle();
+    if (!IsWindowVisible(window) || !IsWindowEnabled(window) || !IsWindowEnabled(GetParent(window))) {
+        throw HostError(error_number::invalid_procedure_call);
+    }
+    SetFocus(window);
+}
+
+LRESULT TextBoxPeer::edit_message(const EditMessage& message) {
+    switch (message.id) {
+    case OCM_CTLCOLOREDIT:
+    case OCM_CTLCOLORSTATIC:
+        return set_colors(reinterpret_cast<HDC>(message.wparam));
+    case OCM_COMMAND:
+        if (HIWORD(message.wparam) == EN_CHANGE) {
+            note_change();
+        }
+        return 0;
+    case EM_SETMARGINS:
+        return keep_margins(message);
+    case WM_SIZE:
+        return resize(message);
+    default: {
+        const auto answer = input_.answer(message);
+        return answer ? *answer : edit_.pass_on(message);
+    }
+    }
+}
+
+LRESULT TextBoxPeer::set_colors(HDC dc) {
+    SetTextColor(dc, to_color_ref(fore_color_));
+    SetBkColor(dc, to_color_ref(back_color_));
+    return reinterpret_cast<LRESULT>(background_.get(back_color_));
+}
+
+// The platform reports a change also when the text was replaced by the same one.
+void TextBoxPeer::note_change() {
+    std::u16string now = text();
+    if (now == known_text_) {
+        return;
+    }
+    known_text_ = std::move(now);
+    if (listener_ != nullptr) {
+        listener_->text_changed();
+    }
+}
+
+LRESULT TextBoxPeer::keep_margins(const EditMessage& message) {
+    if ((message.wparam & EC_LEFTMARGIN) != 0) {
+        left_margin_ = LOWORD(message.lparam);
+    }
+    if ((message.wparam & EC_RIGHTMARGIN) != 0) {
+        right_margin_ = HIWORD(message.lparam);
+    }
+    return edit_.pass_on(message);
+}
+
+// Margins that follow the font depend on the field's width too.
+LRESULT TextBoxPeer::resize(const EditMessage& message) {
+    const LRESULT result = edit_.pass_on(message);
+    apply_margins();
+    return result;
+}
+
+// The platform resets the margins with every font.
+void TextBoxPeer::apply_font(HFONT font) {
+    edit_.send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+    apply_margins();
+}
+
+void TextBoxPeer::apply_margins() {
+    if (left_margin_) {
+        edit_.send(EM_SETMARGINS, EC_LEFTMARGIN, MAKELPARAM(*left_margin_, 0));
+    }
+    if (right_margin_) {
+        edit_.send(EM_SETMARGINS, EC_RIGHTMARGIN, MAKELPARAM(0, *right_margin_));
+    }
+}
+
+} // namespace vellora::win32

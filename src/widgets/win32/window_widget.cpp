@@ -1,0 +1,40 @@
+#include "widgets/win32/window_widget.h"
+
+#include "widgets/win32/screen_metrics.h"
+
+namespace vellora::win32 {
+
+RECT window_place(HWND window) {
+    RECT place{};
+    if (GetWindowRect(window, &place)) {
+        MapWindowPoints(nullptr, GetAncestor(window, GA_PARENT), reinterpret_cast<POINT*>(&place), 2);
+    }
+    return place;
+}
+
+Bounds window_bounds(HWND window) {
+    const RECT place = window_place(window);
+    return {twips_x(place.left), twips_y(place.top), twips_x(place.right - place.left),
+            twips_y(place.bottom - place.top)};
+}
+
+void move_window(HWND window, const Bounds& bounds) {
+    MoveWindow(window, pixels_x(bounds.left), pixels_y(bounds.top), pixels_x(bounds.width),
+               pixels_y(bounds.height), TRUE);
+}
+
+bool is_window_shown(HWND window) {
+    return (GetWindowLongPtrW(window, GWL_STYLE) & WS_VISIBLE) != 0;
+}
+
+void show_window(HWND window, bool show) {
+    ShowWindow(window, show ? SW_SHOWNA : SW_HIDE);
+}
+
+void redraw(HWND window) {
+    if (window != nullptr) {
+        InvalidateRect(window, nullptr, TRUE);
+    }
+}
+
+} // namespace vellora::win32
