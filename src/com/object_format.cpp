@@ -1,0 +1,95 @@
+#include "com/object_format.h"
+
+#include "com/guard.h"
+
+#include <shlwapi.h>
+
+namespace vellora::com {
+
+namespace {
+
+// The platform's standard font and picture.
+constexpr CLSID standard_font = {
+    0x0BE35203, 0x8F91, 0x11CE, {0x9D, 0xE3, 0x00, 0xAA, 0x00, 0x4B, 0xB8, 0x51}};
+constexpr CLSID standard_picture = {
+    0x0BE35204, 0x8F91, 0x11CE, {0x9D, 0xE3, 0x00, 0xAA, 0x00, 0x4B, 0xB8, 0x51}};
+
+ComPtr<IStream> memory_stream(std::span<const std::byte> content) {
+    const ComPtr<IStream> stream = adopt(
+        SHCreateMemStream(reinterpret_cast<const BYTE*>(content.data()), static_cast<UINT>(content.size())));
+    if (!stream)
+        throw std::bad_alloc();
+    return stream;
+}
+
+Bytes content_of(IStream* stream) {
+    STATSTG statistics = {};
+    check(stream->Stat(&statistics, STATFLAG_NONAME));
+    check(stream->Seek({}, STREAM_SEEK_SET, nullptr));
+    Bytes content(static_cast<std::size_t>(statistics.cbSize.QuadPart));
+    ULONG read = 0;
+    check(stream->Read(content.data(), static_cast<ULONG>(content.size()), &read));
+    content.resize(read);
+    return content;
+}
+
+/// One vtable serves both persistence interfaces up to Save.
+ComPtr<IPersistStream> persistent(IUnknown* object) {
+    ComPtr<IPersistStream> found;
+    if (FAILED(object->QueryInterface(IID_PPV_ARGS(&found))))
+        object->QueryInterface(IID_IPersistStreamInit, &found);
+    return found;
+}
+
+Bytes state_of(IPersistStream* object) {
+    const ComPtr<IStream> stream = memory_stream({});
+    check(object->Save(stream.Get(), FALSE));
+    return content_of(stream.Get());
+}
+
+/// The standard picture is not always a creatable class.
+ComPtr<IUnknown> make_object(const CLSID& class_id) {
+    ComPtr<IUnknown> object;
+    if (class_id == standard_picture)
+        check(OleCreatePictureIndirect(nullptr, IID_IUnknown, TRUE, &object));
+    else
+        check(CoCreateInstance(class_id, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&object)));
+    return object;
+}
+
+} // namespace
+
+bool write_object(ByteWriter& out, IUnknown* object) {
+    ComPtr<IPersistStream> storable;
+    CLSID class_id = CLSID_NULL;
+    Bytes state;
+    if (object) {
+        storable = persistent(object);
+        if (!storable || FAILED(storable->GetClassID(&class_id)))
+            return false;
+        state = state_of(storable.Get());
+    }
+    out.number(static_cast<VARTYPE>(VT_UNKNOWN));
+    out.number(class_id);
+    out.number(static_cast<std::uint32_t>(state.size()));
+    out.bytes(state.data(), state.size());
+    return true;
+}
+
+Variant read_object(ByteReader& in, StoredObjects objects) {
+    const auto class_id = in.number<CLSID>();
+    const std::span<const std::byte> state = in.bytes(in.number<std::uint32_t>());
+    if (class_id == CLSID_NULL)
+        return Variant(static_cast<IUnknown*>(nullptr));
+    const bool is_standard = class_id == standard_font || class_id == standard_picture;
+    if (objects == StoredObjects::standard && !is_standard)
+        throw ComFailure(E_ACCESSDENIED);
+    const ComPtr<IUnknown> object = make_object(class_id);
+    const ComPtr<IPersistStream> storable = persistent(object.Get());
+    if (!storable)
+        throw ComFailure(STG_E_DOCFILECORRUPT);
+    check(storable->Load(memory_stream(state).Get()));
+    return Variant(object.Get());
+}
+
+} // namespace vellora::com

@@ -1,0 +1,66 @@
+#include "com/persist_storage.h"
+
+#include "com/control_host.h"
+#include "com/persist_steps.h"
+
+namespace vellora::com {
+
+namespace {
+
+constexpr wchar_t stream_name[] = L"Contents";
+
+} // namespace
+
+PersistStorage::PersistStorage(ControlHost& host) : Delegating(host.controlling()), host_(host) {}
+
+STDMETHODIMP PersistStorage::GetClassID(CLSID* class_id) noexcept {
+    return guard([&] { give_class_id(host_, class_id); });
+}
+
+STDMETHODIMP PersistStorage::IsDirty() noexcept {
+    return host_.persistence().dirty() ? S_OK : S_FALSE;
+}
+
+STDMETHODIMP PersistStorage::InitNew(IStorage* storage) noexcept {
+    const Hold alive = host_.hold();
+    return guard([&] {
+        need(storage);
+        initialise_new(host_, CO_E_ALREADYINITIALIZED);
+    });
+}
+
+STDMETHODIMP PersistStorage::Load(IStorage* storage) noexcept {
+    const Hold alive = host_.hold();
+    return guard(IID_IPersistStorage, [&] {
+        need(storage);
+        ComPtr<IStream> stream;
+        check(storage->OpenStream(stream_name, nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE, 0, &stream));
+        load_from_stream(host_, stream.Get());
+    });
+}
+
+STDMETHODIMP PersistStorage::Save(IStorage* storage, BOOL) noexcept {
+    const Hold alive = host_.hold();
+    return guard(IID_IPersistStorage, [&] {
+        need(storage);
+        ComPtr<IStream> stream;
+        check(storage->CreateStream(stream_name, STGM_CREATE | STGM_WRITE | STGM_SHARE_EXCLUSIVE, 0, 0,
+                                    &stream));
+        save_to_stream(host_, stream.Get(), false);
+    });
+}
+
+STDMETHODIMP PersistStorage::SaveCompleted(IStorage*) noexcept {
+    // Only now it is certain that what was written is kept.
+    const Hold alive = host_.hold();
+    return guard([&] {
+        host_.persistence().set_dirty(false);
+        host_.views().saved();
+    });
+}
+
+STDMETHODIMP PersistStorage::HandsOffStorage() noexcept {
+    return S_OK;
+}
+
+} // namespace vellora::com
