@@ -1,0 +1,35 @@
+#include "server/host_site.h"
+
+#include "com/control_host.h"
+#include "server/host_objects.h"
+
+namespace vellora::server {
+
+namespace {
+
+WindowHandle handle_of(HWND window) { return reinterpret_cast<WindowHandle>(window); }
+
+} // namespace
+
+bool HostSite::user_mode() const { return host_.ambients().user_mode(); }
+
+std::u16string HostSite::display_name() const { return host_.display_name(); }
+
+FontRef HostSite::ambient_font() const { return to_font(host_.ambients().font().Get()); }
+
+float HostSite::extender_width() const { return host_.extender().width(host_.size().cx); }
+
+WindowHandle HostSite::container_window() const { return handle_of(host_.container_window()); }
+
+WindowHandle HostSite::form_window() const { return handle_of(host_.extender().form_window()); }
+
+bool HostSite::form_is_mdi_child() const { return host_.extender().form_is_mdi_child(); }
+
+void HostSite::property_changed(std::u16string_view name) {
+    host_.property_changed(name);
+    host_.view_changed();
+}
+
+std::shared_ptr<void> HostSite::keep_alive() { return std::make_shared<com::Hold>(host_.hold()); }
+
+} // namespace vellora::server

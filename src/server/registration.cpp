@@ -1,0 +1,127 @@
+#include "server/registration.h"
+
+#include "com/guard.h"
+#include "com/ole.h"
+#include "com/type_library.h"
+#include "server/module.h"
+#include "server/registry_entries.h"
+
+// In the platform's import library, but not in its headers.
+extern "C" HRESULT WINAPI RegisterTypeLibForUser(ITypeLib* library, OLECHAR* path, OLECHAR* help_folder);
+extern "C" HRESULT WINAPI UnRegisterTypeLibForUser(REFGUID library, WORD major, WORD minor, LCID locale,
+                                                   SYSKIND kind);
+
+namespace vellora::server {
+
+namespace {
+
+constexpr wchar_t classes_root[] = L"Software\\Classes\\";
+constexpr SYSKIND own_kind = sizeof(void*) == 8 ? SYS_WIN64 : SYS_WIN32;
+constexpr DWORD other_bitness_view = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
+
+HKEY root_of(Scope scope) {
+    return scope == Scope::user ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE;
+}
+
+std::wstring classes(const std::wstring& key) {
+    return classes_root + key;
+}
+
+void check_registry(LSTATUS status) {
+    com::check(HRESULT_FROM_WIN32(static_cast<DWORD>(status)));
+}
+
+void write(Scope scope, const RegistryEntry& entry) {
+    const auto bytes = static_cast<DWORD>((entry.value.size() + 1) * sizeof(wchar_t));
+    check_registry(RegSetKeyValueW(root_of(scope), classes(entry.key).c_str(),
+                                   entry.name.empty() ? nullptr : entry.name.c_str(), REG_SZ,
+                                   entry.value.c_str(), bytes));
+}
+
+/// Empty when there is no such value.
+std::wstring read(Scope scope, const std::wstring& key) {
+    wchar_t text[1024] = {};
+    DWORD bytes = sizeof text;
+    if (RegGetValueW(root_of(scope), classes(key).c_str(), nullptr, RRF_RT_REG_SZ, nullptr, text, &bytes) !=
+        ERROR_SUCCESS)
+        return {};
+    return text;
+}
+
+void remove(Scope scope, const std::wstring& key) {
+    const LSTATUS status = RegDeleteTreeW(root_of(scope), classes(key).c_str());
+    if (status != ERROR_FILE_NOT_FOUND)
+        check_registry(status);
+}
+
+void register_type_library(Scope scope) {
+    std::wstring path = com::module_path();
+    com::ComPtr<ITypeLib> library;
+    com::check(LoadTypeLibEx(path.c_str(), REGKIND_NONE, &library));
+    com::check(scope == Scope::user ? RegisterTypeLibForUser(library.Get(), path.data(), nullptr)
+                                    : RegisterTypeLib(library.Get(), path.data(), nullptr));
+}
+
+void unregister_type_library(Scope scope) {
+    const Module& own = module();
+    // What is not registered cannot be unregistered, and need not be.
+    if (scope == Scope::user)
+        UnRegisterTypeLibForUser(own.type_library, own.major, own.minor, LOCALE_NEUTRAL, own_kind);
+    else
+        UnRegisterTypeLib(own.type_library, own.major, own.minor, LOCALE_NEUTRAL, own_kind);
+}
+
+/// Another copy of the library that is there has taken the class over.
+bool taken_over(Scope scope) {
+    const std::wstring registered = read(scope, class_key() + L"\\InprocServer32");
+    return !registered.empty() && lstrcmpiW(registered.c_str(), com::module_path().c_str()) != 0 &&
+           GetFileAttributesW(registered.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+/// Program identifiers are common to both bitnesses, classes are not.
+bool other_bitness_registered(Scope scope) {
+    HKEY key = nullptr;
+    const std::wstring server = classes(class_key() + L"\\InprocServer32");
+    if (RegOpenKeyExW(root_of(scope), server.c_str(), 0, KEY_READ | other_bitness_view, &key) !=
+        ERROR_SUCCESS)
+        return false;
+    RegCloseKey(key);
+    return true;
+}
+
+void remove_program_ids(Scope scope) {
+    const std::wstring general = module().program_id;
+    if (read(scope, general + L"\\CurVer") == module().versioned_program_id)
+        remove(scope, general);
+    remove(scope, module().versioned_program_id);
+}
+
+void write_everything(Scope scope) {
+    for (const RegistryEntry& entry : class_entries())
+        write(scope, entry);
+    for (const RegistryEntry& entry : program_id_entries())
+        write(scope, entry);
+    register_type_library(scope);
+}
+
+} // namespace
+
+void register_server(Scope scope) {
+    try {
+        write_everything(scope);
+    } catch (...) {
+        com::guard([&] { unregister_server(scope); });
+        throw;
+    }
+}
+
+void unregister_server(Scope scope) {
+    if (taken_over(scope))
+        return;
+    unregister_type_library(scope);
+    remove(scope, class_key());
+    if (!other_bitness_registered(scope))
+        remove_program_ids(scope);
+}
+
+} // namespace vellora::server

@@ -1,0 +1,118 @@
+#include "server/vellora_client.h"
+
+#include "com/control_host.h"
+#include "server/closed_face.h"
+#include "server/message_module.h"
+#include "server/property_categories.h"
+#include "server/saved_values.h"
+
+namespace vellora::server {
+
+namespace {
+
+// Width of a control that no container sized, in pixels at 96 dpi: that of a text box fresh from a form designer.
+constexpr int natural_width = 121;
+
+bool moves_in_child(WPARAM key) {
+    switch (key) {
+    case VK_LEFT:
+    case VK_RIGHT:
+    case VK_UP:
+    case VK_DOWN:
+    case VK_HOME:
+    case VK_END:
+    case VK_PRIOR:
+    case VK_NEXT:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool modified() { return GetKeyState(VK_CONTROL) < 0 || GetKeyState(VK_MENU) < 0; }
+
+} // namespace
+
+VelloraClient::VelloraClient(com::ControlHost& host)
+    : host_(host), peers_(host.parking_window(), compare_, this), events_(host), site_(host),
+      control_({peers_.references(), peers_.surface, site_, events_, peers_.user32, peers_.form_watch,
+                message_module()}),
+      dual_(host, control_) {
+    peers_.surface.set_host(this);
+}
+
+VelloraClient::~VelloraClient() { peers_.surface.set_host(nullptr); }
+
+void* VelloraClient::interface_of(REFIID id) {
+    if (id == __uuidof(::_Vellora) || id == IID_IDispatch) {
+        return static_cast<::_Vellora*>(&dual_);
+    }
+    return nullptr;
+}
+
+HWND VelloraClient::window() { return peers_.surface.handle(); }
+
+SIZE VelloraClient::natural_size() {
+    const float pixel = peers_.surface.twips_per_pixel_y();
+    const int dpi = static_cast<int>(1440 / pixel);
+    const int text = static_cast<int>(peers_.surface.text_height(u"yY") / pixel);
+    constexpr int padding = 8; // as the layout has it
+    return {MulDiv(natural_width, dpi, 96), text + padding};
+}
+
+// The window has told the layout already.
+void VelloraClient::on_resized() {}
+
+void VelloraClient::draw(HDC dc, const RECT& bounds) {
+    win32::paint_field(dc, bounds, closed_face(peers_, control_.state()));
+}
+
+// Ambients are asked for when they are needed.
+void VelloraClient::on_ambient_changed(DISPID) {}
+
+void VelloraClient::initialise_new() { control_.object().InitProperties(); }
+
+void VelloraClient::load(com::PropertyStore& store) {
+    SavedValues values(store);
+    control_.persistence().ReadProperties(values);
+}
+
+void VelloraClient::save(com::PropertyStore& store) {
+    SavedValues values(store);
+    control_.persistence().WriteProperties(values);
+}
+
+// The focus is where the user put it; a list that is left closes by itself.
+void VelloraClient::on_ui_activated() {}
+void VelloraClient::on_ui_deactivated() {}
+
+com::KeyRoute VelloraClient::translate_key(const MSG& message) {
+    if (message.message != WM_KEYDOWN || modified()) {
+        return com::KeyRoute::container;
+    }
+    const bool open = control_.state().mlStatic_hWnd != 0;
+    const bool list_key = message.wParam == VK_RETURN || message.wParam == VK_ESCAPE;
+    return moves_in_child(message.wParam) || (open && list_key) ? com::KeyRoute::child
+                                                                : com::KeyRoute::container;
+}
+
+com::Mnemonics VelloraClient::mnemonics() { return {}; }
+
+void VelloraClient::on_mnemonic(const MSG&) {}
+
+std::optional<com::PropertyCategory> VelloraClient::category(DISPID property) {
+    return property_category(property);
+}
+
+void VelloraClient::surface_wants_height(int pixels) { host_.request_size({host_.size().cx, pixels}); }
+
+void VelloraClient::surface_focus_entered() { host_.request_ui_activation(); }
+
+void VelloraClient::surface_focus_left() { host_.focus_left(); }
+
+void VelloraClient::close_requested() {
+    const com::Hold held = host_.hold();
+    control_.drop_down().HideList();
+}
+
+} // namespace vellora::server
