@@ -50,10 +50,12 @@ add_dependencies(vellora_idl vellora_identifiers)
 file(GLOB win32_sources CONFIGURE_DEPENDS widgets/win32/*.cpp)
 add_library(vellora_win32 STATIC ${win32_sources})
 target_link_libraries(vellora_win32 PUBLIC vellora_behaviour)
+target_compile_options(vellora_win32 PRIVATE $<$<CONFIG:Release>:-Os>)
 
 file(GLOB com_sources CONFIGURE_DEPENDS com/*.cpp)
 add_library(vellora_com STATIC ${com_sources})
 target_link_libraries(vellora_com PUBLIC vellora_behaviour)
+target_compile_options(vellora_com PRIVATE $<$<CONFIG:Release>:-Os>)
 
 # ---- The library ------------------------------------------------------------------------------------------------
 
@@ -71,12 +73,13 @@ set_source_files_properties(server/VelloraCTL.rc PROPERTIES
   OBJECT_DEPENDS "${vellora_idl_dir}/VelloraCTL.tlb;${toolbox_bitmap}"
   COMPILE_DEFINITIONS
     "VELLORA_MAJOR=${PROJECT_VERSION_MAJOR};VELLORA_MINOR=${PROJECT_VERSION_MINOR};VELLORA_REVISION=${PROJECT_VERSION_PATCH}")
+target_compile_options(VelloraCTL PRIVATE $<$<AND:$<CONFIG:Release>,$<COMPILE_LANGUAGE:CXX>>:-Os>)
 set_target_properties(VelloraCTL PROPERTIES
   PREFIX "" SUFFIX .ocx
   RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}
   ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/import)
 target_link_libraries(VelloraCTL PRIVATE vellora_win32 vellora_com vellora_idl
-  ole32 oleaut32 uuid comctl32 gdi32 user32 advapi32 uxtheme imm32 version)
+  ole32 oleaut32 uuid comctl32 gdi32 user32 advapi32 uxtheme imm32 shlwapi version)
 
 # The same sources give the same bytes: a fixed base, and no time stamp (see compiler.cmake).
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
