@@ -7,6 +7,7 @@ namespace vellora::key {
 
 inline constexpr std::int16_t backspace = 8;
 inline constexpr std::int16_t enter = 13;
+inline constexpr std::int16_t escape = 27;
 inline constexpr std::int16_t up = 38;
 inline constexpr std::int16_t down = 40;
 inline constexpr std::int16_t del = 46;

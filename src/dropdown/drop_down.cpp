@@ -9,6 +9,8 @@
 #include "textfield/whole_text.h"
 #include "widgets/form_watch.h"
 
+#include <utility>
+
 namespace vellora {
 
 namespace {
@@ -16,6 +18,18 @@ namespace {
 // Marlett draws an up and a down arrow for these.
 constexpr std::u16string_view up_arrow = u"5";
 constexpr std::u16string_view down_arrow = u"6";
+
+// Lowered however the scope is left, or no list of this thread would ever open again.
+class LoweredAtEnd {
+public:
+    explicit LoweredAtEnd(bool& flag) : flag_(flag) {}
+    ~LoweredAtEnd() { flag_ = false; }
+    LoweredAtEnd(const LoweredAtEnd&) = delete;
+    LoweredAtEnd& operator=(const LoweredAtEnd&) = delete;
+
+private:
+    bool& flag_;
+};
 
 } // namespace
 
@@ -111,6 +125,7 @@ void DropDown::subShowListView() {
         return;
     }
     form_watch_.watch(core_.site.form_window());
+    opening_reported_ = true;
     core_.events.drop_down(DropDownState::open);
     // The handler may have closed this list again, or even opened another one.
     if (core_.state.mlStatic_hWnd == floating) {
@@ -139,8 +154,11 @@ void DropDown::subHideListView() {
     }
     form_watch_.stop();
     window_.tear_down();
-    core_.events.drop_down(DropDownState::closed);
-    gbListOpen = false;
+    const LoweredAtEnd closed(gbListOpen);
+    // A list that the focus change of its own opening closed has never been reported.
+    if (std::exchange(opening_reported_, false)) {
+        core_.events.drop_down(DropDownState::closed);
+    }
 }
 
 void DropDown::subFocusTextBox() {
@@ -184,6 +202,7 @@ void DropDown::abandon() {
         return;
     }
     form_watch_.stop();
+    opening_reported_ = false;
     window_.tear_down();
     gbListOpen = false;
 }

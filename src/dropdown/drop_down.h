@@ -59,6 +59,7 @@ private:
     FormWatch& form_watch_;
     bool click_busy_ = false;
     bool focus_taken_elsewhere_ = false;
+    bool opening_reported_ = false;
 };
 
 } // namespace vellora

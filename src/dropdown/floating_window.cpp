@@ -43,8 +43,13 @@ void FloatingWindow::subCreateDropDownWindow(const Bounds& bounds) {
     if (placement_.ListScrollBars() != scroll_bars_before) {
         make_room_for_scroll_bar(rect);
     }
+    const WindowHandle floating = state.mlStatic_hWnd;
     const WindowHandle list = core_.parts.ListView1.window();
     core_.user32.set_focus(list);
+    // Whoever lost the focus to the list may have closed it already.
+    if (state.mlStatic_hWnd != floating) {
+        return;
+    }
     MsgHandler_.SetHook(list);
     if (state.mbAllowResize) {
         add_resize_frame(rect);

@@ -105,7 +105,7 @@ void Selection::list_column_clicked(std::int32_t column) {
 }
 
 void Selection::list_key_down(std::int16_t& key_code, std::int16_t shift) {
-    if (shift == 0 && key_code == key::f4) {
+    if (shift == 0 && (key_code == key::f4 || key_code == key::escape)) {
         drop_down_.HideList();
     }
 }
