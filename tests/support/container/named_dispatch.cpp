@@ -1,0 +1,49 @@
+#include "support/container/named_dispatch.h"
+
+#include <utility>
+#include <wchar.h>
+
+namespace vellora::test {
+
+NamedDispatch::NamedDispatch() : OwnObject({IID_IDispatch}) {}
+
+void NamedDispatch::property(const std::wstring& name, Getter get, Putter put) {
+    const DISPID id = static_cast<DISPID>(properties_.size()) + 1;
+    properties_[id] = {name, std::move(get), std::move(put)};
+}
+
+STDMETHODIMP NamedDispatch::GetTypeInfoCount(UINT* count) {
+    *count = 0;
+    return S_OK;
+}
+STDMETHODIMP NamedDispatch::GetTypeInfo(UINT, LCID, ITypeInfo** info) {
+    *info = nullptr;
+    return DISP_E_BADINDEX;
+}
+
+STDMETHODIMP NamedDispatch::GetIDsOfNames(REFIID, OLECHAR** names, UINT count, LCID, DISPID* ids) {
+    if (count != 1)
+        return DISP_E_UNKNOWNNAME;
+    ids[0] = DISPID_UNKNOWN;
+    for (const auto& [id, property] : properties_)
+        if (_wcsicmp(property.name.c_str(), names[0]) == 0)
+            ids[0] = id;
+    return ids[0] == DISPID_UNKNOWN ? DISP_E_UNKNOWNNAME : S_OK;
+}
+
+STDMETHODIMP NamedDispatch::Invoke(DISPID id, REFIID, LCID, WORD kind, DISPPARAMS* parameters,
+                                   VARIANT* result, EXCEPINFO*, UINT*) {
+    const auto found = properties_.find(id);
+    if (found == properties_.end())
+        return DISP_E_MEMBERNOTFOUND;
+    if (kind & DISPATCH_PROPERTYGET) {
+        Variant value = found->second.get();
+        return result ? VariantCopy(result, value.argument()) : S_OK;
+    }
+    if (!found->second.put || parameters->cArgs != 1)
+        return DISP_E_MEMBERNOTFOUND;
+    found->second.put(Variant(parameters->rgvarg[0]));
+    return S_OK;
+}
+
+} // namespace vellora::test

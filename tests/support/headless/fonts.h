@@ -1,0 +1,26 @@
+// Fonts and pictures of the headless host, and the text measures that go with them.
+#pragma once
+
+#include "widgets/font.h"
+
+#include <memory>
+
+namespace vellora::test {
+
+/// A font is as good as the height of its line, in twips.
+class HeadlessFont : public Font {
+public:
+    explicit HeadlessFont(float height) : line_height(height) {}
+    float line_height;
+};
+
+class HeadlessPicture : public Picture {};
+
+inline FontRef make_font(float line_height) {
+    return std::make_shared<HeadlessFont>(line_height);
+}
+inline PictureRef make_picture() {
+    return std::make_shared<HeadlessPicture>();
+}
+
+} // namespace vellora::test

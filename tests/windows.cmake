@@ -1,0 +1,30 @@
+# The tests that need Windows: the real library in containers of our own, and the hosts of the screen tests.
+set(tests_dir ${CMAKE_CURRENT_LIST_DIR})
+set(host_libraries ole32 oleaut32 uuid comctl32 gdi32 user32 advapi32)
+
+# A container for controls, which knows nothing of Vellora.
+file(GLOB container_sources CONFIGURE_DEPENDS ${tests_dir}/support/container/*.cpp)
+add_library(test_container STATIC ${container_sources})
+target_include_directories(test_container PUBLIC ${tests_dir})
+target_link_libraries(test_container PUBLIC vellora_options ${host_libraries})
+
+# com/: the library through its public interface.
+file(GLOB com_test_sources CONFIGURE_DEPENDS
+  ${tests_dir}/com/*.cpp ${tests_dir}/com/support/*.cpp ${tests_dir}/regress/com_*.cpp)
+add_executable(com_tests ${com_test_sources})
+# They run for seconds and are built often.
+target_compile_options(com_tests PRIVATE -O0 -g1)
+target_compile_definitions(com_tests PRIVATE VELLORA_TESTS_DIR="${tests_dir}")
+target_link_libraries(com_tests PRIVATE
+  test_container vellora_win32 vellora_com vellora_behaviour vellora_idl gtest gtest_main
+  ${host_libraries} uxtheme imm32 version)
+# The tests load the library by its path, so nothing but this makes it.
+add_dependencies(com_tests VelloraCTL)
+
+# screen/: a form that the Python tests drive line by line.
+file(GLOB form_host_sources CONFIGURE_DEPENDS ${tests_dir}/support/form_host/*.cpp)
+if(form_host_sources)
+  add_executable(form_host ${form_host_sources})
+  target_link_libraries(form_host PRIVATE test_container vellora_idl ${host_libraries})
+  add_dependencies(form_host VelloraCTL)
+endif()
