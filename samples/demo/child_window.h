@@ -1,0 +1,17 @@
+// The plain windows on the form.
+#pragma once
+
+#include <string>
+#include <windows.h>
+
+namespace vellora::demo {
+
+HWND make_label(HWND form, const std::wstring& text);
+HWND make_text_field(HWND form, const std::wstring& text, int id);
+HWND make_list_box(HWND form);
+HWND make_status_bar(HWND form);
+
+void move_window(HWND window, const RECT& place);
+void set_font(HWND window, HFONT font);
+
+} // namespace vellora::demo

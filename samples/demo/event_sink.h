@@ -1,0 +1,49 @@
+// The receiving end of a control's events.
+#pragma once
+
+#include "com_object.h"
+
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include <oaidl.h>
+#include <ocidl.h>
+#include <wrl/client.h>
+
+namespace vellora::demo {
+
+struct Event {
+    std::wstring name;
+    std::vector<std::wstring> arguments; // in declared order
+    /// `DropDown(vlOpen)`
+    std::wstring text() const;
+};
+
+class EventSink final : public ComObject<IDispatch> {
+public:
+    using Handler = std::function<void(const Event&)>;
+
+    explicit EventSink(Handler handler) : handler_(std::move(handler)) {}
+
+    /// Connects to the control and learns the names of its events. Throws a Failure when it has no events.
+    void listen_to(IUnknown* control);
+    void stop();
+
+    STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*,
+                        UINT*) override;
+    STDMETHODIMP GetTypeInfoCount(UINT* count) override;
+    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    STDMETHODIMP GetIDsOfNames(REFIID, OLECHAR**, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
+
+private:
+    void learn_names(IUnknown* control);
+
+    Handler handler_;
+    std::map<DISPID, std::wstring> names_;
+    Microsoft::WRL::ComPtr<IConnectionPoint> point_;
+    DWORD cookie_ = 0;
+};
+
+} // namespace vellora::demo

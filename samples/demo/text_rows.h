@@ -1,0 +1,12 @@
+// Rows of texts, a text for each column, as a list shows them.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace vellora::demo {
+
+using TextRow = std::vector<std::wstring>;
+using TextRows = std::vector<TextRow>;
+
+} // namespace vellora::demo
