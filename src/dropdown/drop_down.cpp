@@ -116,8 +116,7 @@ void DropDown::subShowListView() {
     columns_.ensure_headers();
     sort_if_dirty();
     placement_.subSizeListView(bounds);
-    column_sizes_.size_for_opening();
-    columns_.collapse_hidden_columns();
+    size_columns(bounds);
     select_whole_text(core_.live_text_box());
     window_.subCreateDropDownWindow(bounds);
     const WindowHandle floating = core_.state.mlStatic_hWnd;
@@ -130,6 +129,17 @@ void DropDown::subShowListView() {
     // The handler may have closed this list again, or even opened another one.
     if (core_.state.mlStatic_hWnd == floating) {
         gbListOpen = true;
+    }
+}
+
+// Columns that fill or leave the list's width bring the horizontal scroll bar or take it away, and the list has to be
+// taller or lower by it.
+void DropDown::size_columns(Bounds& bounds) {
+    const int scroll_bars_before = placement_.ListScrollBars();
+    column_sizes_.size_for_opening();
+    columns_.collapse_hidden_columns();
+    if (placement_.ListScrollBars() != scroll_bars_before) {
+        placement_.subSizeListView(bounds);
     }
 }
 

@@ -45,6 +45,7 @@ public:
 private:
     void open_or_leave();
     void sort_if_dirty();
+    void size_columns(Bounds& bounds);
     void show_button_state(int Index);
     void settle_button();
     void set_button_caption(bool open);

@@ -3,6 +3,7 @@
 #include "runtime/procedure_label.h"
 #include "runtime/host_error.h"
 
+#include <algorithm>
 #include <string>
 
 namespace vellora {
@@ -50,7 +51,7 @@ std::int32_t SortAndSearch::FindItem(const VariantArgument& Target, std::int16_t
         }
         const std::u16string target = search_text(Target);
         const bool partial = FindOptions == vlPartialWord;
-        const std::int32_t start = StartIndex - 1;
+        const std::int32_t start = std::max(StartIndex, std::int32_t{0}) - 1;
         if (SearchColumn < 0) {
             return find_anywhere(target, start, partial);
         }

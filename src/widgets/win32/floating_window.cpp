@@ -51,6 +51,13 @@ LRESULT answer_notification(HWND window, WPARAM wparam, LPARAM lparam) {
     return answer ? *answer : DefSubclassProc(window, WM_NOTIFY, wparam, lparam);
 }
 
+// A click into the window that is active already changes nothing. Activating it anew would make a window manager
+// take the form's caption for that of a window nobody works with.
+LRESULT activate_by_mouse(HWND window, WPARAM wparam, LPARAM lparam) {
+    return GetActiveWindow() == window ? MA_NOACTIVATE
+                                       : DefSubclassProc(window, WM_MOUSEACTIVATE, wparam, lparam);
+}
+
 LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
                            DWORD_PTR data) noexcept;
 
@@ -70,6 +77,8 @@ LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lpar
             return request_close(*owner);
         case WM_NCHITTEST:
             return HTCLIENT;
+        case WM_MOUSEACTIVATE:
+            return activate_by_mouse(window, wparam, lparam);
         case WM_ERASEBKGND:
             return erase(window, reinterpret_cast<HDC>(wparam));
         case WM_PAINT:
