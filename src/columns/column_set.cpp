@@ -90,6 +90,9 @@ void ColumnSet::put_ColumnWidth(std::int16_t ColumnIndex, float width) {
     if (!is_column_number(ColumnIndex)) {
         core_.raise(error_number::invalid_columns_value, invalid_width_index_text);
     }
+    if (!(width >= 0) && width != automatic_width) {
+        throw HostError(error_number::invalid_property_value);
+    }
     float& stored = core_.state.masngColumnWidth[slot_of(ColumnIndex)];
     stored = width == automatic_width ? equal_share() : width;
     ensure_headers();

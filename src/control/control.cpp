@@ -30,14 +30,14 @@ Control::~Control() {
     wiring_.reset();
     try {
         Terminate();
-    } catch (const HostError&) {
+    } catch (...) {
         // An instance that ends has nobody left to tell.
     }
 }
 
 void Control::Terminate() {
-    drop_down_.abandon();
     core_.state.mbTerminating = true;
+    drop_down_.abandon();
     items_.ClearAll();
 }
 

@@ -10,8 +10,6 @@
 namespace vellora {
 
 class Appearance;
-class DropDown;
-class ItemStore;
 class TextProperties;
 
 class ControlObject {

@@ -5,6 +5,7 @@
 #include "host/events.h"
 #include "host/site.h"
 #include "host/surface.h"
+#include "runtime/scoped_flag.h"
 #include "widgets/check_button.h"
 #include "widgets/frame.h"
 #include "widgets/list_view.h"

@@ -93,29 +93,4 @@ struct ControlState {
 /// as 1 and is handed back as 1; one above the last column does nothing.
 void subResetColumns(ControlState& state, std::int16_t& FromColumn);
 
-/// A flag that is up for the length of a scope.
-class RaisedFlag {
-public:
-    explicit RaisedFlag(bool& flag) : flag_(flag) { flag_ = true; }
-    ~RaisedFlag() { flag_ = false; }
-    RaisedFlag(const RaisedFlag&) = delete;
-    RaisedFlag& operator=(const RaisedFlag&) = delete;
-
-private:
-    bool& flag_;
-};
-
-/// A flag that has another value for the length of a scope and its old one afterwards.
-class ChangedFlag {
-public:
-    ChangedFlag(bool& flag, bool value) : flag_(flag), before_(flag) { flag_ = value; }
-    ~ChangedFlag() { flag_ = before_; }
-    ChangedFlag(const ChangedFlag&) = delete;
-    ChangedFlag& operator=(const ChangedFlag&) = delete;
-
-private:
-    bool& flag_;
-    bool before_;
-};
-
 } // namespace vellora

@@ -139,6 +139,11 @@ void Control::Wiring::surface_focus_left() {
     control_.drop_down_.UserControl_ExitFocus();
 }
 
+void Control::Wiring::surface_hidden() {
+    const auto held = hold();
+    control_.drop_down_.subCloseDropDown();
+}
+
 void Control::Wiring::surface_destroyed() {
     const auto held = hold();
     control_.drop_down_.subHideListView();

@@ -13,7 +13,7 @@ clsMsgHandler::clsMsgHandler(modMessageHandler& module, MessageRecievedListener&
 clsMsgHandler::~clsMsgHandler() {
     try {
         UnSetHook();
-    } catch (const HostError&) {
+    } catch (...) {
         // The window is gone already; there is nothing left to put back.
     }
     module_.forget(*this);

@@ -19,16 +19,17 @@ namespace {
 constexpr std::u16string_view up_arrow = u"5";
 constexpr std::u16string_view down_arrow = u"6";
 
-// Lowered however the scope is left, or no list of this thread would ever open again.
-class LoweredAtEnd {
+// Lowers gbListOpen at the end of a closing, but only if it was this list's: a handler may open another one while a
+// list closes that was never open for good.
+class ListClosing {
 public:
-    explicit LoweredAtEnd(bool& flag) : flag_(flag) {}
-    ~LoweredAtEnd() { flag_ = false; }
-    LoweredAtEnd(const LoweredAtEnd&) = delete;
-    LoweredAtEnd& operator=(const LoweredAtEnd&) = delete;
+    ListClosing() = default;
+    ~ListClosing() { gbListOpen = gbListOpen && !was_open_; }
+    ListClosing(const ListClosing&) = delete;
+    ListClosing& operator=(const ListClosing&) = delete;
 
 private:
-    bool& flag_;
+    bool was_open_ = gbListOpen;
 };
 
 } // namespace
@@ -55,7 +56,8 @@ void DropDown::chkDropDown_Click(int Index) {
     show_button_state(Index);
     try {
         open_or_leave();
-    } catch (const HostError&) {
+    } catch (...) {
+        subHideListView();
         settle_button();
         throw;
     }
@@ -87,14 +89,17 @@ void DropDown::open_or_leave() {
 
 // A click that opened nothing, because another list was open or the opening failed, must not leave a pressed button.
 void DropDown::settle_button() {
-    if (core_.state.mlStatic_hWnd != 0) {
-        return;
+    if (core_.state.mlStatic_hWnd == 0) {
+        raise_button();
+        set_button_caption(false);
     }
+}
+
+void DropDown::raise_button() {
     core_.parts.chkDropDown[0]->set_visible(true);
     core_.parts.chkDropDown[1]->set_visible(false);
     core_.parts.chkDropDown[0]->set_value(0);
     core_.parts.chkDropDown[1]->set_value(1);
-    set_button_caption(false);
 }
 
 void DropDown::set_button_caption(bool open) {
@@ -109,12 +114,13 @@ void DropDown::chkDropDown_MouseUp() { core_.state.mbDropButtonDown = false; }
 
 void DropDown::subShowListView() {
     const auto control = core_.user32.window_rect(core_.surface.window());
-    if (!control) {
+    if (!control || !core_.surface.shown()) {
         return;
     }
     Bounds bounds = placement_.place(*control);
     columns_.ensure_headers();
     sort_if_dirty();
+    placement_.settle_headers();
     placement_.subSizeListView(bounds);
     size_columns(bounds);
     select_whole_text(core_.live_text_box());
@@ -151,10 +157,12 @@ void DropDown::sort_if_dirty() {
 }
 
 void DropDown::subCloseDropDown() {
-    core_.parts.chkDropDown[0]->set_visible(true);
-    core_.parts.chkDropDown[1]->set_visible(false);
-    core_.parts.chkDropDown[0]->set_value(0);
-    core_.parts.chkDropDown[1]->set_value(1);
+    // The button's own events take the focus from an open list; with the list closed there is none to take.
+    const bool closed = core_.state.mlStatic_hWnd == 0;
+    {
+        const ChangedFlag quiet(click_busy_, click_busy_ || closed);
+        raise_button();
+    }
     subHideListView();
 }
 
@@ -164,7 +172,7 @@ void DropDown::subHideListView() {
     }
     form_watch_.stop();
     window_.tear_down();
-    const LoweredAtEnd closed(gbListOpen);
+    const ListClosing closing;
     // A list that the focus change of its own opening closed has never been reported.
     if (std::exchange(opening_reported_, false)) {
         core_.events.drop_down(DropDownState::closed);

@@ -48,6 +48,7 @@ private:
     void size_columns(Bounds& bounds);
     void show_button_state(int Index);
     void settle_button();
+    void raise_button();
     void set_button_caption(bool open);
     bool is_elsewhere(WindowHandle window) const;
     bool is_inside(WindowHandle window, WindowHandle ancestor) const;

@@ -7,6 +7,8 @@
 #include "runtime/checked.h"
 #include "runtime/decimal.h"
 
+#include <utility>
+
 namespace vellora {
 
 namespace {
@@ -39,7 +41,7 @@ void FloatingWindow::subCreateDropDownWindow(const Bounds& bounds) {
     const int scroll_bars_before = placement_.ListScrollBars();
     bring_list_in();
     settle_selection();
-    settle_headers();
+    placement_.settle_headers();
     if (placement_.ListScrollBars() != scroll_bars_before) {
         make_room_for_scroll_bar(rect);
     }
@@ -75,11 +77,6 @@ void FloatingWindow::settle_selection() {
     if (selection_.ListIndex() == -1) {
         rows.select(-1);
     }
-}
-
-void FloatingWindow::settle_headers() {
-    ListView& list = core_.parts.ListView1;
-    list.set_hide_column_headers(list.rows().count() == 0 || core_.state.mbHideColumnHeaders);
 }
 
 void FloatingWindow::make_room_for_scroll_bar(PixelRect& rect) {
@@ -121,14 +118,13 @@ void FloatingWindow::keep_caption_active() {
 }
 
 void FloatingWindow::tear_down() {
-    const WindowHandle floating = core_.state.mlStatic_hWnd;
+    // Every step may move the focus, and that may come back here: the list counts as closed from now on.
+    const WindowHandle floating = std::exchange(core_.state.mlStatic_hWnd, 0);
     MsgHandler_.UnSetHook();
     take_frame_back(floating);
     ListView& list = core_.parts.ListView1;
     list.set_visible(false);
     core_.user32.set_parent(list.window(), core_.surface.window());
-    // Destroying the window moves the focus, and that may come back here: the list is closed from now on.
-    core_.state.mlStatic_hWnd = 0;
     core_.user32.destroy_window(floating);
     keep_caption_active();
 }

@@ -22,10 +22,8 @@ public:
     void tear_down();
 
 private:
-    struct Size;
     void bring_list_in();
     void settle_selection();
-    void settle_headers();
     void make_room_for_scroll_bar(PixelRect& rect);
     void add_resize_frame(const PixelRect& rect);
     void keep_caption_active();

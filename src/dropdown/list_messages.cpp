@@ -12,6 +12,11 @@ bool begins_track(std::int32_t code) {
     return code == notification::header_begin_track_ansi || code == notification::header_begin_track_wide;
 }
 
+bool double_clicks_divider(std::int32_t code) {
+    return code == notification::header_divider_double_click_ansi ||
+           code == notification::header_divider_double_click_wide;
+}
+
 } // namespace
 
 ListMessages::ListMessages(ControlCore& core, modMessageHandler& module, DropDown& drop_down)
@@ -28,9 +33,14 @@ void ListMessages::MsgHandler_MessageRecieved(std::uint32_t uMsg, std::uintptr_t
 
 void ListMessages::header_notified(std::uintptr_t wParam, std::intptr_t lParam, std::intptr_t& lRetVal) {
     const WindowHandle list = core_.parts.ListView1.window();
-    lRetVal = module_.call_previous(list, message::notify, wParam, lParam);
-    const std::int32_t code = module_.notification(lParam).code;
     const WindowHandle header = core_.user32.send_message(list, message::list_get_header, 0, 0);
+    const std::int32_t code = module_.notification(lParam).code;
+    // The list sizes a column on a double click at once, so this one has to be refused before the list sees it.
+    if (header != 0 && double_clicks_divider(code) && refuses_divider(header)) {
+        lRetVal = 1;
+        return;
+    }
+    lRetVal = module_.call_previous(list, message::notify, wParam, lParam);
     if (header == 0) {
         return;
     }

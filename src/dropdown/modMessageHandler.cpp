@@ -1,13 +1,15 @@
 #include "dropdown/modMessageHandler.h"
 
-#include "control/state.h"
 #include "dropdown/clsMsgHandler.h"
 #include "runtime/procedure_label.h"
+#include "runtime/scoped_flag.h"
 #include "widgets/user32.h"
 
 namespace vellora {
 
 modMessageHandler::modMessageHandler(WindowHook& hook) : hook_(hook) { hook_.receive(this); }
+
+modMessageHandler::~modMessageHandler() { hook_.receive(nullptr); }
 
 void modMessageHandler::ModSetHook(WindowHandle hWnd) {
     labelled(u"modMessageHandler.ModSetHook", [&] {

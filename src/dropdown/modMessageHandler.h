@@ -14,7 +14,11 @@ class clsMsgHandler;
 /// is kept and serves every window hooked later.
 class modMessageHandler final : public HookedMessages {
 public:
+    /// The hook outlives it.
     explicit modMessageHandler(WindowHook& hook);
+    ~modMessageHandler();
+    modMessageHandler(const modMessageHandler&) = delete;
+    modMessageHandler& operator=(const modMessageHandler&) = delete;
 
     void ModSetHook(WindowHandle hWnd);
     void unhook(WindowHandle hWnd);

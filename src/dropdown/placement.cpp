@@ -114,6 +114,11 @@ float Placement::height_of_headers() const {
         checked_multiply(rect->bottom - rect->top + 1, std::int32_t{core_.state.miTwipsPerPixelY}));
 }
 
+void Placement::settle_headers() {
+    ListView& list = core_.parts.ListView1;
+    list.set_hide_column_headers(list.rows().count() == 0 || core_.state.mbHideColumnHeaders);
+}
+
 int Placement::ListScrollBars() const {
     const std::uint32_t style = core_.user32.style(core_.parts.ListView1.window());
     const int horizontal = (style & window_style::horizontal_scroll_bar) != 0 ? 1 : 0;

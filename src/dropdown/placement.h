@@ -29,6 +29,8 @@ public:
     /// Gives the list view as many rows as DropDownHeight allows and there are, plus borders, headers and scroll bar;
     /// `bounds` becomes what the list view took. The height passed in does not matter.
     void subSizeListView(Bounds& bounds);
+    /// Headers show unless they are to be hidden or there are no rows.
+    void settle_headers();
     /// 1 for a horizontal scroll bar, 2 for a vertical one, 3 for both, 0 for none.
     int ListScrollBars() const;
 

@@ -11,10 +11,12 @@ namespace vellora {
 class SurfaceListener {
 public:
     virtual void surface_resized() = 0;
-    /// The surface itself lost the focus, be it to one of its constituents.
+    /// The surface itself lost a focus it had kept; one it passes on to its text box does not count.
     virtual void surface_lost_focus() = 0;
     /// The focus left the control altogether, its open list included.
     virtual void surface_focus_left() = 0;
+    /// The container hides the control.
+    virtual void surface_hidden() = 0;
     /// The window goes, with those in it.
     virtual void surface_destroyed() = 0;
 
@@ -29,6 +31,8 @@ public:
 
     virtual void listen(SurfaceListener* listener) = 0;
     virtual WindowHandle window() const = 0;
+    /// Whether it stands on the screen: it and all that it stands in are visible.
+    virtual bool shown() const = 0;
     /// Outer size as the container reports it, and the width of the client area the constituents stand in.
     virtual float width() const = 0;
     virtual float height() const = 0;

@@ -3,6 +3,8 @@
 #include "runtime/checked.h"
 #include "runtime/host_error.h"
 
+#include <algorithm>
+#include <limits>
 #include <optional>
 #include <vector>
 
@@ -56,7 +58,7 @@ std::int16_t CheckBoxes::CheckedCount() const {
     for (std::int32_t row = 0; row < rows.count(); ++row) {
         count += rows.checked(row) ? 1 : 0;
     }
-    return to_integer(count);
+    return static_cast<std::int16_t>(std::min<std::int32_t>(count, std::numeric_limits<std::int16_t>::max()));
 }
 
 VariantResult CheckBoxes::CheckedItems() const {

@@ -21,7 +21,7 @@ public:
     /// Raises ItemCheck like a click on the box, and can be cancelled like one.
     void put_Checked(std::int16_t ItemIndex, bool checked);
 
-    /// Error 6 for more than 32767.
+    /// An Integer: 32767 also stands for more.
     std::int16_t CheckedCount() const;
     /// The checked rows' indexes; one empty element when there are none.
     VariantResult CheckedItems() const;

@@ -62,7 +62,7 @@ void TextField::key_up(std::int16_t& key_code, std::int16_t& shift) {
 
 void TextField::changed() {
     ControlState& state = core_.state;
-    if (state.mbAutoComplete && state.mbKeyTyped && !state.mbLoadingProperties) {
+    if (state.mbAutoComplete && state.mbKeyTyped && !state.mbLoadingProperties && !state.mbIgnoreChange) {
         if (core_.live_text_box().text().empty() || state.mbDeleteTyped) {
             state.mbDeleteTyped = false;
             return;

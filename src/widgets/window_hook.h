@@ -30,14 +30,14 @@ class WindowHook {
 public:
     virtual ~WindowHook() = default;
 
-    /// One receiver for the whole library, set before the first replacement.
+    /// One receiver a thread, set before its first replacement; null for none.
     virtual void receive(HookedMessages* receiver) = 0;
     /// Puts the replacement in place and returns the procedure that was there; 0 when the window is gone.
     virtual WindowProcedure replace_procedure(WindowHandle window) = 0;
     virtual void restore_procedure(WindowHandle window, WindowProcedure procedure) = 0;
     virtual std::intptr_t call_procedure(WindowProcedure procedure, WindowHandle window, std::uint32_t message,
                                          std::uintptr_t wparam, std::intptr_t lparam) = 0;
-    /// The header that a notification message points to.
+    /// The header that a notification message points to; empty when it points nowhere.
     virtual Notification notification(std::intptr_t lparam) const = 0;
 };
 

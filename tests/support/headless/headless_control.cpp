@@ -47,6 +47,7 @@ HeadlessControl::HeadlessControl(std::unique_ptr<World> own, World* world, Mode 
     if (stage >= Stage::sized) {
         size();
     }
+    world_.desktop.set_focus(world_.other);
     journal().take_all();
 }
 

@@ -28,8 +28,8 @@ enum class Mode { design, run };
 /// Constituents only; with a control on them; with the defaults of a new instance; sized by its container.
 enum class Stage { parts, created, initialised, sized };
 
-/// Starts with an empty journal, whatever the stage. A sized control is 3000 twips wide and 315 high: one
-/// line of 195 twips and four pixels of 15 above and below.
+/// Starts with an empty journal and the focus on the form's other window, whatever the stage. A sized control
+/// is 3000 twips wide and 315 high: one line of 195 twips and four pixels of 15 above and below.
 class HeadlessControl {
 public:
     explicit HeadlessControl(Mode mode = Mode::run, Stage stage = Stage::sized);
@@ -59,6 +59,8 @@ public:
     ColumnOrder& column_order() { return control_->column_order(); }
     Placement& placement() { return control_->placement(); }
     DropDown& drop_down() { return control_->drop_down(); }
+    ResizeGrip& resize_grip() { return control_->resize_grip(); }
+    Persistence& persistence() { return control_->persistence(); }
     TextField& text_field() { return control_->text_field(); }
     TextProperties& text_properties() { return control_->text_properties(); }
 

@@ -19,6 +19,7 @@ public:
 
     void listen(SurfaceListener* listener) override { listener_ = listener; }
     WindowHandle window() const override { return handle_; }
+    bool shown() const override { return is_shown; }
     float width() const override { return width_; }
     float height() const override { return height_; }
     float client_width() const override { return width_ - border; }
@@ -44,6 +45,7 @@ public:
     /// Windows outside the surface that count as its own, as the open list does.
     std::function<bool(WindowHandle)> is_ours;
     bool grants_height = true;
+    bool is_shown = true;
     float border = 0; // twips that the client area is narrower
     FontRef font;
     OleColor back_color = 0;
