@@ -122,7 +122,8 @@ void Activation::deactivate_ui() {
     state_ = State::in_place;
     const ComPtr<IOleInPlaceSite> site = site_;
     give_up_active_object();
-    host_.client().on_ui_deactivated();
+    // Whatever the control makes of it, the container is told.
+    guard([&] { host_.client().on_ui_deactivated(); });
     site->OnUIDeactivate(FALSE);
 }
 
@@ -143,6 +144,7 @@ void Activation::deactivate() {
     const ComPtr<IOleInPlaceSite> site = std::move(site_);
     frame_.Reset();
     document_.Reset();
+    guard([&] { host_.client().on_deactivated(); });
     tell_focus(false);
     leave_parent();
     site->OnInPlaceDeactivate();

@@ -7,17 +7,15 @@ namespace vellora::com {
 
 namespace {
 
-constexpr std::int32_t object_not_set = 91;
-constexpr std::int32_t member_not_supported = 438;
 constexpr std::uint32_t run_time_error_facility = 0x800A0000;
 
 ComPtr<IDispatch> dispatch_of(const VARIANT& value) {
     IUnknown* const object = V_ISBYREF(&value) ? *V_UNKNOWNREF(&value) : V_UNKNOWN(&value);
     if (!object)
-        throw HostError(object_not_set);
+        throw HostError(error_number::object_not_set);
     ComPtr<IDispatch> dispatch;
     if (FAILED(object->QueryInterface(IID_PPV_ARGS(&dispatch))))
-        throw HostError(member_not_supported);
+        throw HostError(error_number::member_not_supported);
     return dispatch;
 }
 
@@ -60,7 +58,7 @@ Variant default_value(const VARIANT& object) {
         if (result == DISP_E_EXCEPTION)
             raise_exception_of_object(exception);
         if (FAILED(result))
-            throw HostError(member_not_supported);
+            throw HostError(error_number::member_not_supported);
     }
     return value;
 }

@@ -17,7 +17,7 @@ HWND create_parking_window() {
     const HWND window = CreateWindowExW(WS_EX_TOOLWINDOW, L"Static", nullptr, WS_POPUP, 0, 0, 0, 0, nullptr,
                                         nullptr, GetModuleHandleW(nullptr), nullptr);
     if (!window)
-        throw ComFailure(HRESULT_FROM_WIN32(GetLastError()));
+        throw ComFailure(E_FAIL);
     return window;
 }
 

@@ -56,7 +56,7 @@ std::wstring module_path() {
         const DWORD length =
             GetModuleFileNameW(module_instance(), path.data(), static_cast<DWORD>(path.size()));
         if (length == 0)
-            throw ComFailure(HRESULT_FROM_WIN32(GetLastError()));
+            throw ComFailure(E_FAIL);
         if (length < path.size())
             return path.substr(0, length);
         path.resize(path.size() * 2);

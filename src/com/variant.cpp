@@ -131,6 +131,8 @@ const VARIANT& resolved(const VARIANT& value) {
         if (!current || depth == deepest)
             throw HostError(error_number::type_mismatch);
     }
+    if (V_ISBYREF(current) && !V_BYREF(current))
+        throw HostError(error_number::type_mismatch);
     return *current;
 }
 

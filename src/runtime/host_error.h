@@ -14,12 +14,14 @@ inline constexpr std::int32_t overflow = 6;
 inline constexpr std::int32_t subscript_out_of_range = 9;
 inline constexpr std::int32_t division_by_zero = 11;
 inline constexpr std::int32_t type_mismatch = 13;
+inline constexpr std::int32_t object_not_set = 91;
 inline constexpr std::int32_t invalid_use_of_null = 94;
 inline constexpr std::int32_t control_array_element_missing = 340;
 inline constexpr std::int32_t invalid_property_value = 380;
 inline constexpr std::int32_t invalid_property_array_index = 381;
 inline constexpr std::int32_t set_not_supported_at_run_time = 382;
 inline constexpr std::int32_t set_not_permitted = 387;
+inline constexpr std::int32_t member_not_supported = 438;
 inline constexpr std::int32_t action_not_supported = 445;
 /// The list view's own: a row, sub-item or column header that does not exist.
 inline constexpr std::int32_t index_out_of_bounds = 35600;

@@ -11,7 +11,6 @@
 
 #include "VelloraCTL.h"
 
-
 namespace vellora {
 class Control;
 }

@@ -11,7 +11,7 @@ inline constexpr std::u16string_view unbuilt_members[] = {
     u"get_Version", u"About", u"get_HeaderIcons", u"putref_HeaderIcons", u"get_HeaderIcon", u"put_HeaderIcon",
 };
 
-/// Error 445 that names the member.
+/// Error 445. The name is for the interface checker, which holds it against the list.
 [[noreturn]] void raise_unbuilt(std::u16string_view member);
 
 } // namespace vellora::server

@@ -82,6 +82,12 @@ void VelloraClient::save(com::PropertyStore& store) {
     control_.persistence().WriteProperties(values);
 }
 
+void VelloraClient::on_deactivated() {
+    if (control_.state().mlStatic_hWnd != 0) {
+        control_.drop_down().subCloseDropDown();
+    }
+}
+
 // The focus is where the user put it; a list that is left closes by itself.
 void VelloraClient::on_ui_activated() {}
 void VelloraClient::on_ui_deactivated() {}
@@ -113,6 +119,11 @@ void VelloraClient::surface_focus_left() { host_.focus_left(); }
 void VelloraClient::close_requested() {
     const com::Hold held = host_.hold();
     control_.drop_down().HideList();
+}
+
+void VelloraClient::floating_window_left() {
+    const com::Hold held = host_.hold();
+    control_.drop_down().subCloseDropDown();
 }
 
 } // namespace vellora::server

@@ -28,6 +28,7 @@ public:
     void initialise_new() override;
     void load(com::PropertyStore& store) override;
     void save(com::PropertyStore& store) override;
+    void on_deactivated() override;
     void on_ui_activated() override;
     void on_ui_deactivated() override;
     com::KeyRoute translate_key(const MSG& message) override;
@@ -40,6 +41,7 @@ private:
     void surface_focus_entered() override;
     void surface_focus_left() override;
     void close_requested() override;
+    void floating_window_left() override;
 
     com::ControlHost& host_;
     win32::LocaleTextCompare compare_;
