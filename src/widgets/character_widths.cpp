@@ -6,11 +6,10 @@ namespace vellora {
 
 namespace {
 
-// An entry is a width with a mark for characters that need shaping.
+// An entry is a width with marks: of a character that needs shaping, and of one that was not asked for yet.
 constexpr std::uint16_t shaped_mark = 0x8000;
-constexpr std::uint16_t width_mask = 0x7FFF;
-constexpr std::uint16_t not_asked = 0xFFFF;
-constexpr std::int32_t widest_character = 0x7FFE;
+constexpr std::uint16_t unknown_mark = 0x4000;
+constexpr std::uint16_t width_mask = 0x3FFF;
 
 struct Units {
     char16_t first;
@@ -41,7 +40,7 @@ bool needs_shaping(char16_t unit) {
 }
 
 std::uint16_t measured(char16_t unit, const TextMeasurer& measurer) {
-    const std::int32_t width = std::clamp(measurer.character_width(unit), 0, widest_character);
+    const std::int32_t width = std::clamp<std::int32_t>(measurer.character_width(unit), 0, width_mask);
     return static_cast<std::uint16_t>(width | (needs_shaping(unit) ? shaped_mark : 0));
 }
 
@@ -52,27 +51,33 @@ CharacterWidths::CharacterWidths() {
 }
 
 CharacterWidths::Sum CharacterWidths::sum(std::u16string_view text, const TextMeasurer& measurer) {
-    std::int32_t width = 0;
-    std::uint16_t marks = 0;
-    const char16_t* const begin = text.data();
-    const char16_t* const end = begin + std::min(text.size(), most_units);
-    const char16_t* unit = begin;
-    for (; unit != end; ++unit) {
-        std::uint16_t known = *unit < latin_.size() ? latin_[*unit] : not_asked;
-        if (known == not_asked) [[unlikely]] {
-            if (*unit == u'\0')
-                break;
-            known = look_up(*unit, measurer);
-        }
-        width += known & width_mask;
+    const std::u16string_view shown = text.substr(0, most_units);
+    std::uint32_t width = 0;
+    std::uint32_t units = 0;
+    std::uint32_t marks = 0;
+    for (const char16_t unit : shown) {
+        const std::uint16_t known = latin_[unit % page_units];
+        units |= unit;
+        width += known;
         marks |= known;
     }
-    return {width, static_cast<std::size_t>(unit - begin), (marks & shaped_mark) != 0};
+    const bool plain = units < page_units && (marks & (shaped_mark | unknown_mark)) == 0;
+    return plain ? Sum{static_cast<std::int32_t>(width), shown.size(), false} : careful_sum(shown, measurer);
 }
 
-std::uint16_t CharacterWidths::look_up(char16_t unit, const TextMeasurer& measurer) {
-    std::uint16_t& known = unit < latin_.size() ? latin_[unit] : page_of(unit)[unit % page_units];
-    if (known == not_asked)
+CharacterWidths::Sum CharacterWidths::careful_sum(std::u16string_view text, const TextMeasurer& measurer) {
+    Sum sum;
+    for (; sum.units < text.size() && text[sum.units] != u'\0'; ++sum.units) {
+        const std::uint16_t known = entry(text[sum.units], measurer);
+        sum.width += known & width_mask;
+        sum.shaped = sum.shaped || (known & shaped_mark) != 0;
+    }
+    return sum;
+}
+
+std::uint16_t CharacterWidths::entry(char16_t unit, const TextMeasurer& measurer) {
+    std::uint16_t& known = unit < page_units ? latin_[unit] : page_of(unit)[unit % page_units];
+    if (known == unknown_mark)
         known = measured(unit, measurer);
     return known;
 }
@@ -81,13 +86,13 @@ CharacterWidths::Page& CharacterWidths::page_of(char16_t unit) {
     std::unique_ptr<Page>& page = pages_[unit / page_units];
     if (!page) {
         page = std::make_unique<Page>();
-        page->fill(not_asked);
+        page->fill(unknown_mark);
     }
     return *page;
 }
 
 void CharacterWidths::forget() {
-    latin_.fill(not_asked);
+    latin_.fill(unknown_mark);
     for (auto& page : pages_)
         page.reset();
 }

@@ -34,10 +34,11 @@ private:
     static constexpr std::size_t page_units = 256;
     using Page = std::array<std::uint16_t, page_units>;
 
-    std::uint16_t look_up(char16_t unit, const TextMeasurer& measurer);
+    Sum careful_sum(std::u16string_view text, const TextMeasurer& measurer);
+    std::uint16_t entry(char16_t unit, const TextMeasurer& measurer);
     Page& page_of(char16_t unit);
 
-    Page latin_; // at hand without a look-up; its zero is never filled in
+    Page latin_; // at hand for quick sums; the zero in it stays unknown, which ends them
     std::array<std::unique_ptr<Page>, 0x10000 / page_units> pages_;
 };
 

@@ -43,7 +43,7 @@ private:
 // of the pairs, so the widest text is among the first few by sum. A margin in pixels instead would let every
 // row through when all are about as wide, as codes and dates are. Shaped texts keep to their sums less
 // closely.
-constexpr std::size_t plain_candidates = 32;
+constexpr std::size_t plain_candidates = 16;
 constexpr std::size_t shaped_candidates = 256;
 
 } // namespace

@@ -58,6 +58,13 @@ LRESULT activate_by_mouse(HWND window, WPARAM wparam, LPARAM lparam) {
                                        : DefSubclassProc(window, WM_MOUSEACTIVATE, wparam, lparam);
 }
 
+LRESULT lose_focus(HWND window, const Owner& owner, HWND next) {
+    if (owner.listener != nullptr && !IsChild(window, next)) {
+        owner.listener->floating_window_left();
+    }
+    return 0;
+}
+
 LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
                            DWORD_PTR data) noexcept;
 
@@ -75,6 +82,8 @@ LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lpar
         switch (message) {
         case WM_CLOSE:
             return request_close(*owner);
+        case WM_KILLFOCUS:
+            return lose_focus(window, *owner, reinterpret_cast<HWND>(wparam));
         case WM_NCHITTEST:
             return HTCLIENT;
         case WM_MOUSEACTIVATE:

@@ -11,6 +11,8 @@ public:
     /// The user asked to close the floating window. It stays unless the listener ends it; the same request
     /// then goes on to the form.
     virtual void close_requested() = 0;
+    /// The window had the focus itself, as its list could not take it, and lost it.
+    virtual void floating_window_left() = 0;
 
 protected:
     ~FloatingWindowListener() = default;

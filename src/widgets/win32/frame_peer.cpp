@@ -54,6 +54,11 @@ LRESULT FramePeer::on_message(HWND window, UINT message, WPARAM wparam, LPARAM l
         return choose_cursor(window, wparam, lparam);
     case WM_CAPTURECHANGED:
         return release();
+    case WM_SHOWWINDOW:
+        if (wparam == FALSE && GetCapture() == window) {
+            ReleaseCapture();
+        }
+        return 0;
     case WM_ERASEBKGND:
         return 1;
     case WM_PAINT:
@@ -91,7 +96,9 @@ FrameContent* FramePeer::target_of(POINT point) const {
 LRESULT FramePeer::press(POINT point, std::int16_t button) {
     pressed_ = target_of(point);
     if (pressed_ != nullptr) {
-        SetCapture(handle());
+        if (GetCapture() != handle()) {
+            SetCapture(handle());
+        }
         pressed_->mouse_pressed(button);
     }
     return 0;

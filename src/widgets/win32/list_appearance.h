@@ -1,5 +1,5 @@
-// The look of a list: its colours, which follow the system's colour scheme, its font, and the picture behind its
-// rows.
+// The look of a list: its colours, which follow the system's colour scheme, its font, and the picture behind
+// its rows.
 #pragma once
 
 #include "runtime/geometry.h"

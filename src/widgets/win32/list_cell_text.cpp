@@ -14,11 +14,15 @@ bool is_readable(const void* text) {
            reinterpret_cast<LPARAM>(text) != -1;
 }
 
-std::u16string_view before_zero(std::u16string_view text) { return text.substr(0, text.find(u'\0')); }
+std::u16string_view before_zero(std::u16string_view text) {
+    return text.substr(0, text.find(u'\0'));
+}
 
 } // namespace
 
-bool has_row(const ListRows& rows, std::int32_t row) { return row >= 0 && row < rows.count(); }
+bool has_row(const ListRows& rows, std::int32_t row) {
+    return row >= 0 && row < rows.count();
+}
 
 std::u16string_view cell_text(const ListRows& rows, std::int32_t row, std::int32_t column) {
     constexpr std::u16string_view empty = u"";
@@ -55,7 +59,8 @@ int copy_text(std::u16string_view text, char* buffer, int capacity) {
     // A unit takes at least one character: whatever lies behind the capacity cannot fit.
     const std::u16string_view source = before_zero(text).substr(0, static_cast<std::size_t>(capacity) - 1);
     const int length = static_cast<int>(source.size());
-    const int needed = WideCharToMultiByte(CP_ACP, 0, wide(source.data()), length, nullptr, 0, nullptr, nullptr);
+    const int needed =
+        WideCharToMultiByte(CP_ACP, 0, wide(source.data()), length, nullptr, 0, nullptr, nullptr);
     std::string narrow(static_cast<std::size_t>(needed), '\0');
     WideCharToMultiByte(CP_ACP, 0, wide(source.data()), length, narrow.data(), needed, nullptr, nullptr);
     const int copied = std::min(needed, capacity - 1);
@@ -64,7 +69,9 @@ int copy_text(std::u16string_view text, char* buffer, int capacity) {
     return copied;
 }
 
-std::u16string text_of(const wchar_t* text) { return is_readable(text) ? from_wide(text) : std::u16string(); }
+std::u16string text_of(const wchar_t* text) {
+    return is_readable(text) ? from_wide(text) : std::u16string();
+}
 
 std::u16string text_of(const char* text) {
     if (!is_readable(text))

@@ -19,8 +19,8 @@ std::u16string_view cell_text(const ListRows& rows, std::int32_t row, std::int32
 bool write_cell(ListRows& rows, std::int32_t row, std::int32_t column, std::int32_t columns,
                 std::u16string_view text);
 
-/// Copies up to the first zero unit, cuts to the buffer's capacity and ends with a zero. Returns the number of
-/// characters before it; a missing buffer takes nothing.
+/// Copies up to the first zero unit, cuts to the buffer's capacity and ends with a zero. Returns the number
+/// of characters before it; a missing buffer takes nothing.
 int copy_text(std::u16string_view text, wchar_t* buffer, int capacity);
 int copy_text(std::u16string_view text, char* buffer, int capacity);
 

@@ -9,7 +9,9 @@ namespace vellora::win32 {
 
 namespace {
 
-std::int32_t column_of(const WindowMessage& message) { return static_cast<std::int32_t>(message.wparam); }
+std::int32_t column_of(const WindowMessage& message) {
+    return static_cast<std::int32_t>(message.wparam);
+}
 
 bool is_order(const int* order, std::int32_t count) {
     std::vector<bool> met(static_cast<std::size_t>(count));

@@ -12,11 +12,15 @@ namespace {
 constexpr int text_margins = 12;
 
 // A header without visual style draws a raised edge besides.
-int caption_margins() { return text_margins + 2 * GetSystemMetrics(SM_CXEDGE); }
+int caption_margins() {
+    return text_margins + 2 * GetSystemMetrics(SM_CXEDGE);
+}
 
 } // namespace
 
-HFONT ListColumnWidths::font() const { return reinterpret_cast<HFONT>(window_.native(WM_GETFONT)); }
+HFONT ListColumnWidths::font() const {
+    return reinterpret_cast<HFONT>(window_.native(WM_GETFONT));
+}
 
 int ListColumnWidths::for_content(std::int32_t column) {
     const bool boxes = column == 0 && window_.has_extended_style(LVS_EX_CHECKBOXES);
@@ -37,7 +41,8 @@ int ListColumnWidths::for_caption(std::int32_t column) const {
 int ListColumnWidths::icon_width(std::int32_t column) const {
     HDITEMW item{};
     item.mask = HDI_FORMAT;
-    SendMessageW(window_.header(), HDM_GETITEMW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&item));
+    SendMessageW(window_.header(), HDM_GETITEMW, static_cast<WPARAM>(column),
+                 reinterpret_cast<LPARAM>(&item));
     const auto icons =
         reinterpret_cast<HIMAGELIST>(SendMessageW(window_.header(), HDM_GETIMAGELIST, HDSIL_NORMAL, 0));
     int width = 0;

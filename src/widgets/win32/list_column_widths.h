@@ -1,5 +1,5 @@
-// How wide a column has to be for what stands in it. The rows are measured where they are kept, since the window
-// would ask for every single one.
+// How wide a column has to be for what stands in it. The rows are measured where they are kept, since the
+// window would ask for every single one.
 #pragma once
 
 #include "widgets/column_measure.h"

@@ -70,7 +70,9 @@ void ListHeaders::inserted(std::int32_t column, std::u16string text) {
     headers_.insert(headers_.begin() + place, Header{std::move(text), {}});
 }
 
-void ListHeaders::renamed(std::int32_t column, std::u16string text) { at(column).text = std::move(text); }
+void ListHeaders::renamed(std::int32_t column, std::u16string text) {
+    at(column).text = std::move(text);
+}
 
 void ListHeaders::removed(std::int32_t column) {
     at(column);

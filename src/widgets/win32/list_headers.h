@@ -1,5 +1,5 @@
-// The column headers of a list: their captions, tags and widths. Columns are counted from 0 here and widths are
-// pixels; a column that does not exist raises 35600.
+// The column headers of a list: their captions, tags and widths. Columns are counted from 0 here and widths
+// are pixels; a column that does not exist raises 35600.
 #pragma once
 
 #include "widgets/win32/list_window.h"

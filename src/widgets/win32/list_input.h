@@ -1,5 +1,5 @@
-// What the user does in a list, told to its listener: keys before the window sees them, clicks once the window
-// has settled the selection, check boxes before the click that belongs to them.
+// What the user does in a list, told to its listener: keys before the window sees them, clicks once the
+// window has settled the selection, check boxes before the click that belongs to them.
 #pragma once
 
 #include "widgets/list_view.h"
@@ -17,8 +17,9 @@ public:
 
     void listen(ListViewListener* listener) { listener_ = listener; }
 
-    /// Handles keys, characters and presses on check boxes. The result is the message's own when the window is
-    /// not to see it; this object may have ended by then. Otherwise a listener may have changed the message.
+    /// Handles keys, characters and presses on check boxes. The result is the message's own when the window
+    /// is not to see it; this object may have ended by then. Otherwise a listener may have changed the
+    /// message.
     std::optional<LRESULT> take(WindowMessage& message);
 
     /// While the window works on a message, what it notifies is kept until `finish`.

@@ -14,7 +14,9 @@ constexpr UINT last_list_message = LVM_FIRST + 0xFF;
 constexpr std::int32_t every_row = -1;
 constexpr UINT window_state = LVIS_SELECTED | LVIS_FOCUSED | LVIS_CUT | LVIS_DROPHILITED;
 
-std::int32_t row_of(const WindowMessage& message) { return static_cast<std::int32_t>(message.wparam); }
+std::int32_t row_of(const WindowMessage& message) {
+    return static_cast<std::int32_t>(message.wparam);
+}
 
 // State image 1 is the empty box and 2 the checked one; others are none of this list's.
 std::optional<bool> check_in(UINT state, UINT mask) {
@@ -28,7 +30,9 @@ std::optional<bool> check_in(UINT state, UINT mask) {
 
 } // namespace
 
-bool is_list_message(UINT message) { return message >= LVM_FIRST && message <= last_list_message; }
+bool is_list_message(UINT message) {
+    return message >= LVM_FIRST && message <= last_list_message;
+}
 
 std::optional<LRESULT> ListItemMessages::answer(const WindowMessage& message) {
     if (!is_list_message(message.id))
@@ -205,8 +209,7 @@ LRESULT ListItemMessages::delete_all_items() {
 }
 
 std::int32_t ListItemMessages::column_count() const {
-    const auto count =
-        static_cast<std::int32_t>(SendMessageW(window_.header(), HDM_GETITEMCOUNT, 0, 0));
+    const auto count = static_cast<std::int32_t>(SendMessageW(window_.header(), HDM_GETITEMCOUNT, 0, 0));
     return std::max(count, 0);
 }
 

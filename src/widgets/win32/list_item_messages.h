@@ -1,5 +1,5 @@
-// Messages about rows that other programs send to the list's window, answered from the rows: the window itself
-// holds none. What would take the rows' place in the window is refused.
+// Messages about rows that other programs send to the list's window, answered from the rows: the window
+// itself holds none. What would take the rows' place in the window is refused.
 #pragma once
 
 #include "widgets/list_rows.h"

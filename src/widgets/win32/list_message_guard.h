@@ -6,8 +6,8 @@
 
 namespace vellora::win32 {
 
-/// The message lacks the structure it speaks of, or is about groups, tiles, footers and other things that a list
-/// in report style does not have. It is answered with 0.
+/// The message lacks the structure it speaks of, or is about groups, tiles, footers and other things that a
+/// list in report style does not have. It is answered with 0.
 bool is_refused(const WindowMessage& message);
 
 } // namespace vellora::win32

@@ -49,15 +49,26 @@ ListRowsMirror::ListRowsMirror(ListWindow& window, ListRows& rows) : window_(win
     rows_.observe(this);
 }
 
-ListRowsMirror::~ListRowsMirror() { rows_.observe(nullptr); }
+ListRowsMirror::~ListRowsMirror() {
+    rows_.observe(nullptr);
+}
 
-void ListRowsMirror::rows_changed() { mark(content | order); }
+void ListRowsMirror::rows_changed() {
+    mark(content | order);
+}
 
-void ListRowsMirror::row_changed(std::int32_t) { mark(content | order); }
+void ListRowsMirror::row_changed(std::int32_t) {
+    mark(content | order);
+}
 
 void ListRowsMirror::selection_changed() {
     if (!adopting_)
         mark(selection);
+}
+
+void ListRowsMirror::bring_into_view(RowRef row) {
+    wanted_in_view_ = row;
+    mark(view);
 }
 
 // The painting that this asks for brings a visible list up to date.
@@ -94,24 +105,32 @@ void ListRowsMirror::mirror() {
     if (changes_ & content)
         mirror_count();
     mirror_selection();
+    if (changes_ & view)
+        mirror_view();
     changes_ &= order;
 }
 
+// Rows beyond the new count lose their state without a notification.
 void ListRowsMirror::mirror_count() {
-    window_.native(LVM_SETITEMCOUNT, static_cast<WPARAM>(rows_.count()),
-                   LVSICF_NOINVALIDATEALL);
+    window_.native(LVM_SETITEMCOUNT, static_cast<WPARAM>(rows_.count()), LVSICF_NOINVALIDATEALL);
+    selected_ = selected_ < rows_.count() ? selected_ : -1;
+    focused_ = focused_ < rows_.count() ? focused_ : -1;
 }
 
 void ListRowsMirror::mirror_selection() {
     const std::int32_t wanted = rows_.selected();
-    const std::int32_t selected = next_row(LVNI_SELECTED);
-    const std::int32_t focused = focused_row();
-    if (selected != -1 && selected != wanted)
-        set_state(selected, 0, LVIS_SELECTED);
-    if (focused != -1 && focused != wanted)
-        set_state(focused, 0, LVIS_FOCUSED);
-    if (wanted != -1 && (selected != wanted || focused != wanted))
+    if (selected_ != -1 && selected_ != wanted)
+        set_state(selected_, 0, LVIS_SELECTED);
+    if (focused_ != -1 && focused_ != wanted)
+        set_state(focused_, 0, LVIS_FOCUSED);
+    if (wanted != -1 && (selected_ != wanted || focused_ != wanted))
         set_state(wanted, selected_and_focused, selected_and_focused);
+}
+
+void ListRowsMirror::mirror_view() {
+    const std::int32_t row = rows_.position(wanted_in_view_);
+    if (row >= 0)
+        window_.native(LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
 }
 
 void ListRowsMirror::set_state(std::int32_t row, UINT state, UINT mask) {
@@ -121,22 +140,40 @@ void ListRowsMirror::set_state(std::int32_t row, UINT state, UINT mask) {
     window_.native(LVM_SETITEMSTATE, static_cast<WPARAM>(row), &item);
 }
 
-std::int32_t ListRowsMirror::next_row(UINT flags) const {
-    return static_cast<std::int32_t>(
-        window_.native(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), static_cast<LPARAM>(flags)));
+bool ListRowsMirror::note(const NMHDR& header) {
+    if (static_cast<UINT>(header.code) == LVN_ITEMCHANGED) {
+        const auto& change = reinterpret_cast<const NMLISTVIEW&>(header);
+        note_state(change.iItem, change.iItem, change.uOldState, change.uNewState);
+    } else if (static_cast<UINT>(header.code) == LVN_ODSTATECHANGED) {
+        const auto& change = reinterpret_cast<const NMLVODSTATECHANGE&>(header);
+        note_state(change.iFrom, change.iTo, change.uOldState, change.uNewState);
+    } else {
+        return false;
+    }
+    adopt_selection();
+    return true;
 }
 
-std::int32_t ListRowsMirror::focused_row() const { return next_row(LVNI_FOCUSED); }
+void ListRowsMirror::note_state(std::int32_t first, std::int32_t last, UINT old_state, UINT new_state) {
+    const UINT gained = new_state & ~old_state;
+    const UINT lost = old_state & ~new_state;
+    const auto update = [&](std::int32_t& row, UINT state) {
+        const bool all_rows = first == -1;
+        if (gained & state)
+            row = last;
+        else if ((lost & state) && (all_rows || (row >= first && row <= last)))
+            row = -1;
+    };
+    update(selected_, LVIS_SELECTED);
+    update(focused_, LVIS_FOCUSED);
+}
 
 void ListRowsMirror::adopt_selection() {
     // While changes wait to be mirrored the window's row numbers mean nothing.
-    if (mirroring_ || has_changes())
-        return;
-    const std::int32_t selected = next_row(LVNI_SELECTED);
-    if (selected == rows_.selected() || selected >= rows_.count())
+    if (mirroring_ || has_changes() || selected_ >= rows_.count() || selected_ == rows_.selected())
         return;
     const Raised guard(adopting_);
-    rows_.select(selected);
+    rows_.select(selected_);
 }
 
 void ListRowsMirror::settle_scroll_bars() {

@@ -9,7 +9,8 @@
 
 namespace vellora::win32 {
 
-/// Searches the rows' texts from row `start` on, case ignored; -1 for none. Anything but a text is never found.
+/// Searches the rows' texts from row `start` on, case ignored; -1 for none. Anything but a text is never
+/// found.
 std::int32_t search_rows(const ListRows& rows, const LVFINDINFOW& search, std::int32_t start);
 std::int32_t search_rows(const ListRows& rows, const LVFINDINFOA& search, std::int32_t start);
 

@@ -10,11 +10,18 @@ namespace {
 
 constexpr int widest_tip = 600; // pixels, before the text is broken into lines
 
+// A tip that is shown would stay behind.
+bool takes_list_away(const WindowMessage& message) {
+    return message.id == WM_KILLFOCUS || (message.id == WM_SHOWWINDOW && !message.wparam);
+}
+
 } // namespace
 
 void ListToolTip::watch(const WindowMessage& message) {
     if (message.id == WM_MOUSEMOVE)
         move_to(cell_at(message.lparam));
+    else if (takes_list_away(message))
+        move_to({});
     if (tip_ && message.id >= WM_MOUSEFIRST && message.id <= WM_MOUSELAST)
         relay(message);
 }
@@ -39,9 +46,9 @@ void ListToolTip::move_to(const Cell& cell) {
 }
 
 void ListToolTip::create() {
-    tip_.reset(CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP,
-                               CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, window_.handle(),
-                               nullptr, nullptr, nullptr));
+    tip_.reset(CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
+                               WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, CW_USEDEFAULT, CW_USEDEFAULT,
+                               CW_USEDEFAULT, CW_USEDEFAULT, window_.handle(), nullptr, nullptr, nullptr));
     TTTOOLINFOW tool{};
     tool.cbSize = TTTOOLINFOW_V1_SIZE;
     tool.uFlags = TTF_IDISHWND;

@@ -102,10 +102,7 @@ LRESULT ListViewPeer::notified(NMHDR& header) {
         return *shown;
     if (const auto painted = appearance_.answer(header))
         return *painted;
-    const UINT code = header.code;
-    if (code == LVN_ITEMCHANGED || code == LVN_ODSTATECHANGED)
-        mirror_.adopt_selection();
-    else
+    if (!mirror_.note(header))
         input_.note(header);
     return 0;
 }
@@ -131,9 +128,7 @@ void ListViewPeer::refresh() {
 }
 
 void ListViewPeer::ensure_visible(std::int32_t row) {
-    const RowRef wanted = rows_.ref(row);
-    mirror_.flush();
-    pass_on({LVM_ENSUREVISIBLE, static_cast<WPARAM>(rows_.position(wanted)), FALSE});
+    mirror_.bring_into_view(rows_.ref(row));
 }
 
 float ListViewPeer::row_height() const {
@@ -157,13 +152,17 @@ void ListViewPeer::clear_headers() {
     mirror_.settle_scroll_bars();
 }
 
-void ListViewPeer::add_header(std::u16string_view text) { headers_.add(text, pixels_x(new_header_width)); }
+void ListViewPeer::add_header(std::u16string_view text) {
+    headers_.add(text, pixels_x(new_header_width));
+}
 
 void ListViewPeer::set_header_text(std::int32_t column, std::u16string_view text) {
     headers_.set_text(column - 1, text);
 }
 
-float ListViewPeer::header_width(std::int32_t column) const { return twips_x(headers_.width(column - 1)); }
+float ListViewPeer::header_width(std::int32_t column) const {
+    return twips_x(headers_.width(column - 1));
+}
 
 void ListViewPeer::set_header_width(std::int32_t column, float width) {
     if (width < 0)
@@ -178,7 +177,9 @@ void ListViewPeer::set_header_tag(std::int32_t column, std::u16string_view tag) 
 
 // ---- Styles ----
 
-bool ListViewPeer::hide_column_headers() const { return window_.has_style(LVS_NOCOLUMNHEADER); }
+bool ListViewPeer::hide_column_headers() const {
+    return window_.has_style(LVS_NOCOLUMNHEADER);
+}
 
 void ListViewPeer::set_hide_column_headers(bool hide) {
     if (hide == hide_column_headers())
@@ -188,13 +189,17 @@ void ListViewPeer::set_hide_column_headers(bool hide) {
     redraw(window_.handle());
 }
 
-bool ListViewPeer::allow_column_reorder() const { return window_.has_extended_style(LVS_EX_HEADERDRAGDROP); }
+bool ListViewPeer::allow_column_reorder() const {
+    return window_.has_extended_style(LVS_EX_HEADERDRAGDROP);
+}
 
 void ListViewPeer::set_allow_column_reorder(bool allow) {
     window_.set_extended_style(LVS_EX_HEADERDRAGDROP, allow);
 }
 
-bool ListViewPeer::check_boxes() const { return window_.has_extended_style(LVS_EX_CHECKBOXES); }
+bool ListViewPeer::check_boxes() const {
+    return window_.has_extended_style(LVS_EX_CHECKBOXES);
+}
 
 void ListViewPeer::set_check_boxes(bool show) {
     window_.native(LVM_SETCALLBACKMASK, show ? LVIS_STATEIMAGEMASK : 0);
@@ -202,9 +207,13 @@ void ListViewPeer::set_check_boxes(bool show) {
     redraw(window_.handle());
 }
 
-bool ListViewPeer::grid_lines() const { return window_.has_extended_style(LVS_EX_GRIDLINES); }
+bool ListViewPeer::grid_lines() const {
+    return window_.has_extended_style(LVS_EX_GRIDLINES);
+}
 
-void ListViewPeer::set_grid_lines(bool show) { window_.set_extended_style(LVS_EX_GRIDLINES, show); }
+void ListViewPeer::set_grid_lines(bool show) {
+    window_.set_extended_style(LVS_EX_GRIDLINES, show);
+}
 
 void ListViewPeer::apply_font(HFONT font) {
     window_.native(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);

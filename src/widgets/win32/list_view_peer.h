@@ -20,9 +20,9 @@ class ListViewPeer final : public WindowWidget<ListView>,
                            private ListWindowClient,
                            private NotificationReceiver {
 public:
-    /// Created hidden and without size. The surface hands its WM_NOTIFY to `route_notification`, and goes on doing
-    /// so while the list stands elsewhere. Tracker and comparison outlive the peer. Throws std::bad_alloc without
-    /// a window.
+    /// Created hidden and without size. The surface hands its WM_NOTIFY to `route_notification`, and goes on
+    /// doing so while the list stands elsewhere. Tracker and comparison outlive the peer. Throws
+    /// std::bad_alloc without a window.
     ListViewPeer(HWND surface, FocusTracker& focus, const TextCompare& compare);
     ~ListViewPeer() override;
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
-#include <stdexcept>
+#include <new>
 #include <vector>
 
 namespace vellora::win32 {
@@ -16,7 +16,7 @@ constexpr DWORD sort_key_flags = LCMAP_SORTKEY | NORM_IGNORECASE;
 
 int length_of(std::u16string_view text) {
     if (text.size() > static_cast<std::size_t>(std::numeric_limits<int>::max()))
-        throw std::length_error("text");
+        throw std::bad_alloc();
     return static_cast<int>(text.size());
 }
 
@@ -59,8 +59,8 @@ std::u16string LocaleTextCompare::fold(std::u16string_view text) const {
     if (is_ascii(text))
         std::transform(text.begin(), text.end(), folded.begin(), ascii_lower);
     else
-        LCMapStringEx(LOCALE_NAME_USER_DEFAULT, LCMAP_LOWERCASE, wide(text.data()), length_of(text), wide(folded),
-                      length_of(folded), nullptr, nullptr, 0);
+        LCMapStringEx(LOCALE_NAME_USER_DEFAULT, LCMAP_LOWERCASE, wide(text.data()), length_of(text),
+                      wide(folded), length_of(folded), nullptr, nullptr, 0);
     return folded;
 }
 

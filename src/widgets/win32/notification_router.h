@@ -20,8 +20,8 @@ protected:
 /// needs no ending of its own.
 void receive_notifications(HWND sender, NotificationReceiver* receiver) noexcept;
 
-/// Hands the WM_NOTIFY with this lParam on. Nothing when its sender has no receiver: the caller then treats the
-/// message as any other.
+/// Hands the WM_NOTIFY with this lParam on. Nothing when its sender has no receiver: the caller then treats
+/// the message as any other.
 std::optional<LRESULT> route_notification(LPARAM lparam) noexcept;
 
 } // namespace vellora::win32

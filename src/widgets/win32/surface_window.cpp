@@ -108,6 +108,8 @@ float SurfaceWindow::twips_per_pixel_y() const {
 
 LRESULT SurfaceWindow::on_message(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
     switch (message) {
+    case WM_SHOWWINDOW:
+        return tell_shown(window, wparam, lparam);
     case WM_SIZE:
         return tell_resized();
     case WM_ENABLE:
@@ -188,6 +190,13 @@ LRESULT SurfaceWindow::change_look(HWND window, UINT message, WPARAM wparam, LPA
     EnumChildWindows(window, pass_to_child, reinterpret_cast<LPARAM>(&changed));
     RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
     return DefWindowProcW(window, message, wparam, lparam);
+}
+
+LRESULT SurfaceWindow::tell_shown(HWND window, WPARAM wparam, LPARAM lparam) {
+    if (wparam == FALSE && listener_ != nullptr) {
+        listener_->surface_hidden();
+    }
+    return DefWindowProcW(window, WM_SHOWWINDOW, wparam, lparam);
 }
 
 LRESULT SurfaceWindow::tell_resized() {

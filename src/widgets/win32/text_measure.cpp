@@ -11,14 +11,18 @@ namespace {
 // Longer texts are as wide as any window several times over, and some drivers measure no more.
 constexpr std::size_t longest_measured = 0x7FFF;
 
-HGDIOBJ usable(HFONT font) { return font ? font : GetStockObject(SYSTEM_FONT); }
+HGDIOBJ usable(HFONT font) {
+    return font ? font : GetStockObject(SYSTEM_FONT);
+}
 
 } // namespace
 
 TextMeasure::TextMeasure(HFONT font)
     : dc_(CreateCompatibleDC(nullptr)), former_font_(SelectObject(dc_.get(), usable(font))) {}
 
-TextMeasure::~TextMeasure() { SelectObject(dc_.get(), former_font_); }
+TextMeasure::~TextMeasure() {
+    SelectObject(dc_.get(), former_font_);
+}
 
 std::int32_t TextMeasure::width(std::u16string_view text) const {
     SIZE extent{};
@@ -27,6 +31,8 @@ std::int32_t TextMeasure::width(std::u16string_view text) const {
     return extent.cx;
 }
 
-std::int32_t TextMeasure::character_width(char16_t unit) const { return width({&unit, 1}); }
+std::int32_t TextMeasure::character_width(char16_t unit) const {
+    return width({&unit, 1});
+}
 
 } // namespace vellora::win32

@@ -6,7 +6,8 @@ namespace vellora::win32 {
 
 namespace {
 
-HookedMessages* receiver = nullptr;
+// A thread hooks its own windows only.
+thread_local HookedMessages* receiver = nullptr;
 
 HWND as_window(WindowHandle window) {
     return reinterpret_cast<HWND>(window);
@@ -42,6 +43,9 @@ std::intptr_t WindowHookPeer::call_procedure(WindowProcedure procedure, WindowHa
 }
 
 Notification WindowHookPeer::notification(std::intptr_t lparam) const {
+    if (lparam == 0) {
+        return {};
+    }
     const auto& header = *reinterpret_cast<const NMHDR*>(lparam);
     return {reinterpret_cast<WindowHandle>(header.hwndFrom), header.idFrom,
             static_cast<std::int32_t>(header.code)};
