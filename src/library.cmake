@@ -81,6 +81,12 @@ set_target_properties(VelloraCTL PROPERTIES
 target_link_libraries(VelloraCTL PRIVATE vellora_win32 vellora_com vellora_idl
   ole32 oleaut32 uuid comctl32 gdi32 user32 advapi32 uxtheme imm32 shlwapi version)
 
+# Failures of the standard library without their messages: see server/lean_runtime.cpp.
+foreach(function _ZSt17__throw_bad_allocv _ZSt28__throw_bad_array_new_lengthv _ZSt20__throw_length_errorPKc
+    _ZSt19__throw_logic_errorPKc _ZSt24__throw_out_of_range_fmtPKcz _ZSt20__throw_system_errori)
+  target_link_options(VelloraCTL PRIVATE -Wl,--wrap=${function})
+endforeach()
+
 # The same sources give the same bytes: a fixed base, and no time stamp (see compiler.cmake).
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
   target_link_options(VelloraCTL PRIVATE -Wl,--image-base,0x1FA40000 -Wl,--enable-stdcall-fixup)

@@ -5,7 +5,7 @@ LIBRARY=VelloraCTL.ocx
 LIBRARY_BYTES=$((600 * 1024))
 
 # What every Windows has; anything else would have to be delivered with it.
-SYSTEM_LIBRARIES='kernel32 user32 gdi32 ole32 oleaut32 advapi32 comctl32 msvcrt uxtheme shell32
+SYSTEM_LIBRARIES='kernel32 user32 gdi32 ole32 oleaut32 advapi32 comctl32 msvcrt uxtheme shell32 shlwapi
     version comdlg32 msimg32 imm32 olepro32 oleacc uiautomationcore'
 
 fill_dist() {
