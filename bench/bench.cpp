@@ -26,7 +26,7 @@ struct Bench {
     Report report;
     VelloraList list{container, L"Vellora1", 20};
     VelloraList short_list{container, L"Vellora2", 260};
-    NativeList native{container.form().window()};
+    NativeList native;
 
     double vellora_fill(int runs, int count) {
         return median_time(

@@ -7,9 +7,11 @@
 
 namespace vellora::bench {
 
-NativeList::NativeList(HWND parent)
-    : window_(CreateWindowExW(0, WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_SINGLESEL, 20,
-                              60, 400, 200, parent, nullptr, nullptr, nullptr)) {
+NativeList::NativeList()
+    : frame_(CreateWindowExW(0, WC_STATICW, L"Native list", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 660, 100, 440,
+                             300, nullptr, nullptr, nullptr, nullptr)),
+      window_(CreateWindowExW(0, WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_SINGLESEL, 0, 0,
+                              400, 200, frame_, nullptr, nullptr, nullptr)) {
     for (int column = 0; column < columns; ++column) {
         LVCOLUMNW header{};
         header.mask = LVCF_WIDTH | LVCF_SUBITEM;
@@ -21,7 +23,7 @@ NativeList::NativeList(HWND parent)
 }
 
 NativeList::~NativeList() {
-    DestroyWindow(window_);
+    DestroyWindow(frame_);
 }
 
 void NativeList::add(SampleRows& rows, int count) {

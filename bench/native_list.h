@@ -1,4 +1,5 @@
-// The platform's own list in report view, filled the ordinary way with redrawing switched off.
+// The platform's own list in report view, filled the ordinary way with redrawing switched off. Its parent is
+// a plain window that does nothing about what the list tells it.
 #pragma once
 
 #include "sample_rows.h"
@@ -9,7 +10,7 @@ namespace vellora::bench {
 
 class NativeList {
 public:
-    explicit NativeList(HWND parent);
+    NativeList();
     ~NativeList();
     NativeList(const NativeList&) = delete;
     NativeList& operator=(const NativeList&) = delete;
@@ -22,6 +23,7 @@ public:
 private:
     void set_text(int row, int column, std::wstring& text);
 
+    HWND frame_;
     HWND window_;
 };
 

@@ -26,8 +26,11 @@ ComPtr<IClassFactory> factory_of_library(const std::wstring& path) {
 
 ComPtr<IClassFactory> registered_factory() {
     ComPtr<IClassFactory> factory;
-    check(CoGetClassObject(__uuidof(Vellora), CLSCTX_INPROC_SERVER, nullptr, IID_PPV_ARGS(&factory)),
-          L"VelloraCTL.ocx is not registered (regsvr32 VelloraCTL.ocx does that): finding its class");
+    const HRESULT found =
+        CoGetClassObject(__uuidof(Vellora), CLSCTX_INPROC_SERVER, nullptr, IID_PPV_ARGS(&factory));
+    if (found == REGDB_E_CLASSNOTREG)
+        throw Failure(L"VelloraCTL.ocx is not registered. This does it: regsvr32 VelloraCTL.ocx");
+    check(found, L"Finding the registered library");
     return factory;
 }
 

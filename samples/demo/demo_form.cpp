@@ -17,6 +17,11 @@ SIZE window_size(SIZE client) {
     return {outer.right - outer.left, outer.bottom - outer.top};
 }
 
+void limit_size(MINMAXINFO& limits) {
+    const SIZE smallest = window_size(smallest_client());
+    limits.ptMinTrackSize = {smallest.cx, smallest.cy};
+}
+
 int height_of(HWND window) {
     RECT rect;
     GetWindowRect(window, &rect);
@@ -138,26 +143,20 @@ LRESULT DemoForm::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_SIZE:
         lay_out();
         return 0;
-    case WM_GETMINMAXINFO: {
-        const SIZE smallest = window_size(smallest_client());
-        reinterpret_cast<MINMAXINFO*>(lparam)->ptMinTrackSize = {smallest.cx, smallest.cy};
+    case WM_GETMINMAXINFO:
+        limit_size(*reinterpret_cast<MINMAXINFO*>(lparam));
         return 0;
-    }
     case WM_NCACTIVATE:
         looks_active_ = wparam != FALSE;
         break;
     case WM_ACTIVATE:
-        if (LOWORD(wparam) == WA_INACTIVE)
-            remember_focus();
-        frame_->form_activated(LOWORD(wparam) != WA_INACTIVE);
+        on_activated(LOWORD(wparam) != WA_INACTIVE);
         break;
     case WM_SETFOCUS:
         give_focus_back();
         return 0;
     case WM_COMMAND:
-        // The focus went to a window that is no control, which nobody else tells the control in use.
-        if (LOWORD(wparam) == text_field_id && HIWORD(wparam) == EN_SETFOCUS)
-            frame_->deactivate_current();
+        on_notified(LOWORD(wparam), HIWORD(wparam));
         return 0;
     case WM_DESTROY:
         release_controls();
@@ -173,8 +172,9 @@ LRESULT DemoForm::handle(UINT message, WPARAM wparam, LPARAM lparam) {
 void DemoForm::lay_out() {
     if (!status_ || boxes_.empty())
         return;
-    // The status bar finds its place by itself.
+    // The status bar finds its place by itself, but forgets to wipe out its grip at the old one.
     SendMessageW(status_, WM_SIZE, 0, 0);
+    InvalidateRect(status_, nullptr, TRUE);
     RECT client;
     GetClientRect(window_, &client);
     const FormLayout layout({client.right, client.bottom}, static_cast<int>(boxes_.size()) + 1,
@@ -188,15 +188,22 @@ void DemoForm::lay_out() {
     move_window(log_->window(), layout.log);
 }
 
-// A form has no use for the focus: the child that had it before gets it back.
-void DemoForm::remember_focus() {
-    if (IsChild(window_, GetFocus()))
+void DemoForm::on_activated(bool active) {
+    if (!active && IsChild(window_, GetFocus()))
         last_focus_ = GetFocus();
+    frame_->form_activated(active);
 }
 
+// A form has no use for the focus: the child that had it before gets it back.
 void DemoForm::give_focus_back() const {
     const bool possible = IsChild(window_, last_focus_) && IsWindowVisible(last_focus_);
-    SetFocus(possible ? last_focus_ : text_field_);
+    SetFocus(possible ? last_focus_ : GetNextDlgTabItem(window_, nullptr, FALSE));
+}
+
+// The focus went to a window that is no control, which nobody else tells the control in use.
+void DemoForm::on_notified(int child_id, int notice) const {
+    if (child_id == text_field_id && notice == EN_SETFOCUS)
+        frame_->deactivate_current();
 }
 
 void DemoForm::on_event(const VelloraBox& box, const Event& event) {

@@ -47,8 +47,9 @@ private:
     void set_tab_order() const;
 
     void lay_out();
-    void remember_focus();
+    void on_activated(bool active);
     void give_focus_back() const;
+    void on_notified(int child_id, int notice) const;
     void on_event(const VelloraBox& box, const Event& event);
     void show_choice(const VelloraBox& box) const;
     void show_status(const std::wstring& text) const;

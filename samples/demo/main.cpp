@@ -42,12 +42,22 @@ void run(const DemoForm& form, ScreenReport& report) {
     }
 }
 
-void demonstrate(int how_to_show) {
-    LineFile file(log_path_from_command_line());
+void demonstrate(LineFile& file, int how_to_show) {
     DemoForm form(file);
     ScreenReport report(file);
     form.show(how_to_show);
     run(form, report);
+}
+
+/// The watching program gets to know what ended the demonstration, as the user does.
+void demonstrate_watched(int how_to_show) {
+    LineFile file(log_path_from_command_line());
+    try {
+        demonstrate(file, how_to_show);
+    } catch (const Failure& failure) {
+        file.write({L"problem", failure.message()});
+        throw;
+    }
 }
 
 void explain(const std::wstring& problem) {
@@ -56,7 +66,7 @@ void explain(const std::wstring& problem) {
 
 int guarded_run(int how_to_show) {
     try {
-        demonstrate(how_to_show);
+        demonstrate_watched(how_to_show);
         return 0;
     } catch (const Failure& failure) {
         explain(failure.message());

@@ -14,7 +14,7 @@ sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 from player import Demo, Player  # noqa: E402
 from support.bed import xdotool  # noqa: E402
 
-OPENED, CLICKED, CHANGED, CLOSED = "DropDown(vlOpen)", "Click()", "Change()", "DropDown(vlClosed)"
+OPENED, CLICKED, CLOSED = "DropDown(vlOpen)", "Click()", "DropDown(vlClosed)"
 FIELD = "Ordinary text field"
 
 
@@ -64,7 +64,7 @@ def play_choosing(play, demo):
     with play.step("Type 'jap' in the list", "time-zones-type-ahead"):
         xdotool("type", "--delay", "30", "jap")
         demo.expect_state("selected row", str(row))
-    with play.step("Press Enter", "time-zones-enter", CHANGED, CLICKED, CLOSED):
+    with play.step("Press Enter", "time-zones-enter", CLICKED, CLOSED):
         xdotool("key", "Return")
         demo.expect_closed()
         demo.expect_state("text of Time zones", zone)
@@ -73,8 +73,8 @@ def play_choosing(play, demo):
         demo.click_button("Time zones")
         demo.expect_open()
         demo.expect_state("selected row", str(row))
-    chosen = int(demo.state["top row"]) + 2
-    with play.step("Click the third row in sight", "time-zones-click", CHANGED, CLICKED, CLOSED):
+    chosen = demo.row_in_sight(2)
+    with play.step("Click the third row in sight", "time-zones-click", CLICKED, CLOSED):
         demo.click_row(chosen)
         demo.expect_closed()
         demo.expect_state("text of Time zones", zone_rows()[chosen][1])
@@ -93,11 +93,17 @@ def play_long_list(play, demo):
         demo.click_button("Unicode characters")
         demo.expect_open()
         demo.expect_state("rows in list", "32767")
-    with play.step("Open 'All Unicode characters' while that list is open", "all-characters-open",
-                   CLOSED, OPENED):
+    with play.step("Press Escape", "characters-closed", CLOSED):
+        xdotool("key", "Escape")
+        demo.expect_closed()
+    with play.step("Open 'All Unicode characters'", "all-characters-open", OPENED):
         demo.click_button("All Unicode characters")
         demo.expect_open()
         demo.expect_state("rows in list", str(len(names)))
+    left, top, right, bottom = demo.rect("list")
+    with play.step("Drag the grip", "all-characters-grip"):
+        demo.drag((right - 5, bottom - 5), (right - 65, bottom + 55))
+        demo.expect_state("list", f"{left} {top} {right - 60} {bottom + 60}")
     with play.step("Turn the wheel", "all-characters-wheel"):
         demo.wheel(10)
         demo.expect("a row further down on top", lambda: int(demo.state["top row"]) > 10)
@@ -107,8 +113,8 @@ def play_long_list(play, demo):
         end = int(demo.state["top row"])
         demo.wheel(-2)
         demo.expect("a row further up on top", lambda: int(demo.state["top row"]) < end)
-    chosen = int(demo.state["top row"]) + 3
-    with play.step(f"Click row {chosen}", "all-characters-click", CHANGED, CLICKED, CLOSED):
+    chosen = demo.row_in_sight(3)
+    with play.step(f"Click row {chosen}", "all-characters-click", CLICKED, CLOSED):
         demo.click_row(chosen)
         demo.expect_closed()
         demo.expect_state("text of All Unicode characters", names[chosen])
@@ -122,8 +128,8 @@ def play_closing(play, demo):
         xdotool("key", "F4")
         demo.expect_closed()
         demo.expect_state("focus", "All Unicode characters")
-    with play.step("Open 'Time zones'", "elsewhere-open", OPENED):
-        demo.click_button("Time zones")
+    with play.step("Open 'Paper sizes'", "elsewhere-open", OPENED):
+        demo.click_button("Paper sizes")
         demo.expect_open()
     with play.step("Click the ordinary text field", "elsewhere-closed", CLOSED):
         demo.click_place(f"place of {FIELD}")
@@ -132,11 +138,11 @@ def play_closing(play, demo):
 
 
 def play_small_lists(play, demo):
-    with play.step("Open 'Paper sizes'", "paper-sizes-open", OPENED):
+    with play.step("Open 'Paper sizes' again", "paper-sizes-open", OPENED):
         demo.click_button("Paper sizes")
         demo.expect_open()
         demo.expect_state("selected row", "1")
-    with play.step("Click the last row", "paper-sizes-click", CHANGED, CLICKED, CLOSED):
+    with play.step("Click the last row", "paper-sizes-click", CLICKED, CLOSED):
         demo.click_row(5)
         demo.expect_closed()
         demo.expect_state("text of Paper sizes", "Letter")
@@ -149,10 +155,13 @@ def play_small_lists(play, demo):
 
 
 def play_right_to_left(play, demo):
-    with play.step("Open 'Right to left'", "right-to-left-open", OPENED):
+    with play.step("Open 'Paper sizes', then 'Right to left' while that list is open", "right-to-left-open",
+                   OPENED, CLOSED, OPENED):
+        demo.click_button("Paper sizes")
+        demo.expect_open()
         demo.click_button("Right to left")
         demo.expect_open()
-    with play.step("Press Down and Enter", "right-to-left-enter", CHANGED, CLICKED, CLOSED):
+    with play.step("Press Down and Enter", "right-to-left-enter", CLICKED, CLOSED):
         xdotool("key", "Down", "Return")
         demo.expect_closed()
         demo.expect_state("text of Right to left", "الاثنين")
@@ -176,12 +185,15 @@ def play_resolution(play, dpi):
         with play.step("Open 'Time zones'", f"{dpi}-time-zones", OPENED):
             demo.click_button("Time zones")
             demo.expect_open()
-        with play.step("Press Enter on the second row", f"{dpi}-enter", CHANGED, CLICKED, CLOSED):
+        with play.step("Press Enter on the second row", f"{dpi}-enter", CLICKED, CLOSED):
             xdotool("key", "Home", "Down", "Return")
             demo.expect_state("text of Time zones", zone_rows()[1][1])
         with play.step("Open 'All Unicode characters'", f"{dpi}-all-characters", OPENED):
             demo.click_button("All Unicode characters")
             demo.expect_open()
+        with play.step("Press Escape", f"{dpi}-closed", CLOSED):
+            xdotool("key", "Escape")
+            demo.expect_closed()
 
 
 SCENES = (play_start, play_keys_in_list, play_choosing, play_completion, play_long_list, play_closing,
@@ -198,7 +210,8 @@ def main():
         for dpi in (120, 144):
             play_resolution(play, dpi)
     except AssertionError as failure:
-        print(f"\nFAILED in step {play.number}: {failure}")
+        where = f"in step {play.number}" if play.number else "at the start"
+        print(f"\nFAILED {where}: {failure}")
         return 1
     finally:
         print(f"The pictures are in {folder}")

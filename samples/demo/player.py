@@ -5,7 +5,7 @@ import shutil
 import subprocess
 import tempfile
 
-from support.bed import ARCH, ROOT, click, move, wait_for, wine_command, xdotool
+from support.bed import ARCH, PATIENCE, ROOT, click, move, wait_for, wine_command, xdotool
 
 TITLE = "Vellora demonstration"
 # Single keys and mouse movements are in the log on the form; here they would hide what matters.
@@ -34,7 +34,12 @@ class Player:
 
     def take_picture(self, name):
         path = os.path.join(self.folder, f"{self.number:02}-{name}.png")
+        wait_for(lambda: screen() == screen(), "the screen to come to rest")
         subprocess.run(["import", "-window", "root", path], check=True)
+
+
+def screen():
+    return subprocess.run(["import", "-window", "root", "rgb:-"], check=True, capture_output=True).stdout
 
 
 class Demo:
@@ -55,24 +60,29 @@ class Demo:
 
     def __enter__(self):
         self.play.demo = self
-        window = wait_for(self._window, "the form")
-        xdotool("windowactivate", "--sync", window)
+        self.expect("the form", self._window)
+        xdotool("windowactivate", "--sync", self._window())
         self.expect_state("form looks", "active")
         return self
 
     def __exit__(self, *failure):
-        if self.alive():
-            self.click_place("place of Ordinary text field")
-            xdotool("key", "alt+F4")
-            try:
-                self.process.wait(20)
-            except subprocess.TimeoutExpired:
-                self.process.kill()
-                raise AssertionError("the demonstration did not end") from None
-        self.lines.close()
-        self.folder.cleanup()
-        if not failure[0] and self.process.wait() != 0:
-            raise AssertionError(f"the demonstration ended with code {self.process.returncode}")
+        try:
+            if not failure[0]:
+                self.quit()
+        finally:
+            self.process.kill()
+            self.process.wait()
+            self.lines.close()
+            self.folder.cleanup()
+
+    def quit(self):
+        # Alt+F4 is for the window with the focus, which is not to be an open list.
+        xdotool("key", "Escape")
+        self.expect_closed()
+        xdotool("key", "alt+F4")
+        code = self.process.wait(PATIENCE)
+        if code != 0:
+            raise AssertionError(f"the demonstration ended with code {code}")
 
     def alive(self):
         return self.process.poll() is None
@@ -99,8 +109,9 @@ class Demo:
         if kind == "state":
             self.state[name] = value
         elif not value.startswith(tuple(f"{event}(" for event in MINOR_EVENTS)):
+            again = self.events[-1:] == [value]
+            print(" ..." if again else f" -> {value}", end="", flush=True)
             self.events.append(value)
-            print(f" -> {value}", end="", flush=True)
 
     def expect(self, what, condition):
         def ask():
@@ -144,6 +155,10 @@ class Demo:
     def click_button(self, control):
         self.click_place(f"button of {control}")
 
+    def row_in_sight(self, number):
+        self.read()
+        return int(self.state["top row"]) + number
+
     def _row(self, row):
         left, top, right, bottom = self.rect("place of top row")
         down = (row - int(self.state["top row"])) * (bottom - top)
@@ -156,6 +171,12 @@ class Demo:
     def click_check_box(self, row):
         left, top, _, bottom = self._row(row)
         click((left + (bottom - top) // 2, (top + bottom) // 2))
+
+    def drag(self, start, end):
+        move(start)
+        xdotool("mousedown", 1)
+        move(end)
+        xdotool("mouseup", 1)
 
     def wheel(self, notches):
         """Down for positive numbers."""

@@ -50,9 +50,11 @@ Variant harmless(const TYPEDESC& type) {
     case VT_R4:
         return 1.0F;
     case VT_BSTR:
-        return L"x";
     case VT_VARIANT:
         return L"x";
+    case VT_DISPATCH:
+    case VT_UNKNOWN:
+        return static_cast<IDispatch*>(nullptr);
     case VT_PTR:
         return type.lptdesc->vt == VT_I2 ? Variant(short{0}) : Variant(static_cast<IDispatch*>(nullptr));
     default:

@@ -21,8 +21,16 @@ protected:
         button_->listen(&journal_);
     }
 
-    void press(LPARAM where = inside) { post(button_->window(), WM_LBUTTONDOWN, MK_LBUTTON, where); }
-    void release(LPARAM where = inside) { post(button_->window(), WM_LBUTTONUP, 0, where); }
+    // Sent, not posted: a message loop would also bring in what the real mouse does.
+    void send(UINT message, WPARAM wparam, LPARAM lparam) {
+        SendMessageW(window_of(*button_), message, wparam, lparam);
+    }
+    void press() { send(WM_LBUTTONDOWN, MK_LBUTTON, inside); }
+    void release(LPARAM where = inside) {
+        if (button_) {
+            send(WM_LBUTTONUP, 0, where);
+        }
+    }
 
     ButtonJournal journal_{lines_};
     std::unique_ptr<CheckButtonPeer> button_ = std::make_unique<CheckButtonPeer>(surface_, 7);
@@ -53,7 +61,7 @@ TEST_F(Win32ButtonTest, APressTakesTheMouseAndThenTheFocus) {
 
 TEST_F(Win32ButtonTest, AReleaseOutsideIsNoClick) {
     press();
-    post(button_->window(), WM_MOUSEMOVE, MK_LBUTTON, outside);
+    send(WM_MOUSEMOVE, MK_LBUTTON, outside);
     EXPECT_FALSE(button_->face().pressed);
     release(outside);
     EXPECT_EQ(take_lines(), (Lines{"pressed 7", "released 7"}));
@@ -63,9 +71,9 @@ TEST_F(Win32ButtonTest, AReleaseOutsideIsNoClick) {
 TEST_F(Win32ButtonTest, LooksPressedWhileTheMouseIsDownOverIt) {
     press();
     EXPECT_TRUE(button_->face().pressed);
-    post(button_->window(), WM_MOUSEMOVE, MK_LBUTTON, outside);
+    send(WM_MOUSEMOVE, MK_LBUTTON, outside);
     EXPECT_FALSE(button_->face().pressed);
-    post(button_->window(), WM_MOUSEMOVE, MK_LBUTTON, inside);
+    send(WM_MOUSEMOVE, MK_LBUTTON, inside);
     EXPECT_TRUE(button_->face().pressed);
 }
 
@@ -122,18 +130,18 @@ TEST_F(Win32ButtonTest, APressMadeBeforeTheButtonChangedIsOutdated) {
 }
 
 TEST_F(Win32ButtonTest, OtherButtonsArePressesWithoutAClick) {
-    post(button_->window(), WM_RBUTTONDOWN, MK_RBUTTON, inside);
-    post(button_->window(), WM_RBUTTONUP, 0, inside);
+    send(WM_RBUTTONDOWN, MK_RBUTTON, inside);
+    send(WM_RBUTTONUP, 0, inside);
     EXPECT_EQ(take_lines(), (Lines{"pressed 7", "released 7"}));
     EXPECT_EQ(GetFocus(), other_);
 }
 
 TEST_F(Win32ButtonTest, TheSpaceBarTogglesOnItsWayUp) {
     SetFocus(window_of(*button_));
-    post(button_->window(), WM_KEYDOWN, VK_SPACE, 1);
+    send(WM_KEYDOWN, VK_SPACE, 1);
     EXPECT_TRUE(button_->face().pressed);
     EXPECT_EQ(button_->value(), 0);
-    post(button_->window(), WM_KEYUP, VK_SPACE, 1);
+    send(WM_KEYUP, VK_SPACE, 1);
     EXPECT_EQ(button_->value(), 1);
     EXPECT_EQ(take_lines(), Lines{"clicked 7"});
 }
@@ -171,10 +179,9 @@ TEST_F(Win32ButtonTest, MayBeEndedByEachOfItsEvents) {
         button_->move({2400, 0, 240, 300});
         button_->set_visible(true);
         button_->listen(&journal_);
-        const WindowHandle window = button_->window();
         *reaction = [&] { button_.reset(); };
-        post(window, WM_LBUTTONDOWN, MK_LBUTTON, inside);
-        post(window, WM_LBUTTONUP, 0, inside);
+        press();
+        release();
         EXPECT_EQ(button_, nullptr);
     }
 }

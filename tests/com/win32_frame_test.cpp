@@ -139,6 +139,13 @@ TEST_F(Win32LabelTest, LosingTheMouseIsARelease) {
     EXPECT_EQ(take_lines(), Lines{});
 }
 
+TEST_F(Win32LabelTest, AFrameThatIsHiddenLetsTheMouseGo) {
+    SendMessageW(window_of(*frame_), WM_LBUTTONDOWN, MK_LBUTTON, on_label_);
+    frame_->set_visible(false);
+    EXPECT_EQ(GetCapture(), nullptr);
+    EXPECT_EQ(take_lines(), (Lines{"pressed 1", "released"}));
+}
+
 TEST_F(Win32LabelTest, TheLaterOfTwoLabelsGetsTheMouse) {
     Lines later_lines;
     LabelJournal later_journal(later_lines);

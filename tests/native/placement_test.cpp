@@ -50,11 +50,12 @@ struct Narrow : HeadlessControl {
     PixelRect list_in_popup() { return desktop().at(list_view.window()).rect; }
 };
 
-/// The answers of a list whose scroll bars come and go: one for each look at its style, the last for all
-/// later ones.
-std::function<std::uint32_t()> scroll_bars_in_turn(std::vector<std::uint32_t> answers) {
-    return
-        [answers, next = std::size_t{0}]() mutable { return answers[std::min(next++, answers.size() - 1)]; };
+/// Gives the list other scroll bars in the floating window than it has in the control.
+void change_scroll_bars(Narrow& combo, std::uint32_t in_control, std::uint32_t in_popup) {
+    combo.list_view.scroll_bars = [&combo, in_control, in_popup] {
+        const WindowHandle parent = combo.desktop().at(combo.list_view.window()).parent;
+        return combo.desktop().name(parent) == "popup" ? in_popup : in_control;
+    };
 }
 
 constexpr std::uint32_t across = window_style::horizontal_scroll_bar;
@@ -187,29 +188,28 @@ TEST(Placement, MakesNoRoomForAVerticalScrollBar) {
     EXPECT_EQ(combo.open_height(), 8 * 17 + 25);
 }
 
-// One look while sizing, one when the window stands, one when the list sits in it.
 TEST(Placement, MakesRoomForAScrollBarThatComesInTheFloatingWindow) {
     Narrow combo(3);
-    combo.list_view.scroll_bars = scroll_bars_in_turn({0, 0, across});
+    change_scroll_bars(combo, 0, across);
     EXPECT_EQ(combo.open(), (PixelRect{100, 221, 299, 297 + 17}));
     EXPECT_EQ(combo.list_in_popup(), (PixelRect{0, 0, 199, 93}));
 }
 
 TEST(Placement, MakesRoomEvenForAScrollBarThatGoes) {
     Narrow combo(3);
-    combo.list_view.scroll_bars = scroll_bars_in_turn({across, across, 0});
+    change_scroll_bars(combo, across, 0);
     EXPECT_EQ(combo.open_height(), 76 + 17 + 17);
 }
 
 TEST(Placement, MakesRoomForAScrollBarThatReplacesTheOther) {
     Narrow combo(3);
-    combo.list_view.scroll_bars = scroll_bars_in_turn({0, down, across});
+    change_scroll_bars(combo, down, across);
     EXPECT_EQ(combo.open_height(), 76 + 17);
 }
 
 TEST(Placement, GrowsTheWindowWithoutRepaintingIt) {
     Narrow combo(3);
-    combo.list_view.scroll_bars = scroll_bars_in_turn({0, 0, across});
+    change_scroll_bars(combo, 0, across);
     combo.open();
     const Lines calls = combo.journal().take_system();
     EXPECT_NE(std::find(calls.begin(), calls.end(), "move popup 100,221 199x93"), calls.end());
@@ -358,7 +358,7 @@ TEST(PlacementArithmetic, OverflowsWithMoreRowsToShowThanAnIntegerHolds) {
 
 TEST(PlacementArithmetic, ThatFailsInTheMiddleOfAnOpeningLeavesAListThatOpensAgain) {
     Narrow combo;
-    combo.list_view.scroll_bars = scroll_bars_in_turn({0, 0, across});
+    change_scroll_bars(combo, 0, across);
     combo.user32.metrics[system_metric::scroll_bar_height] = std::numeric_limits<int>::max();
     EXPECT_EQ(failure_of([&] { combo.drop_down().ShowList(); }).number, 6);
     combo.list_view.scroll_bars = nullptr;

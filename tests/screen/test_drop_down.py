@@ -67,7 +67,6 @@ class MouseTest(ListTest):
         before = self.picture("before")
         button = self.host.rect("button")
         self.host.call("Vellora1", "ShowList")
-        self.host.do("floating")
         during = self.picture("during")
         self.assertFalse(before.same(during, button), "the button looks the same while its list is open")
         self.host.call("Vellora1", "HideList")
@@ -100,9 +99,8 @@ class MouseTest(ListTest):
         self.until_closed()
         self.assert_events(OPENED, CLOSED)
         self.until(lambda: other.do("form")["active"], "the other program to become active")
-        self.assertIsNone(self.host.focus())
-        self.assertFalse(self.host.caption_active())
         self.picture("other-active")
+        self.assertEqual(str(other.x_window), xdotool("getwindowfocus"))
 
     def test_the_wheel_scrolls_the_list(self):
         self.open()
@@ -142,7 +140,6 @@ class ToggleTest(ListTest):
         before = self.picture("before")
         button = self.host.rect("button")
         self.host.call("Vellora1", "ShowList")
-        self.host.do("floating")
         self.assertFalse(before.same(self.picture("during"), button))
         self.host.call("Vellora1", "HideList")
         self.host.do("set_focus", edit="other")
@@ -203,7 +200,7 @@ class KeyTest(ListTest):
         self.host.events()
         self.host.key("Return")
         self.until_closed()
-        self.assert_events(CLICKED, CLOSED)
+        self.assert_events(CLICKED, CLOSED, "Vellora1.KeyUp(I2 13, I2 0)")
         self.assertEqual("row 03", self.text())
         self.assertEqual("Vellora1", self.host.focus()["owner"])
         self.picture("entered")
@@ -260,7 +257,7 @@ class FormTest(ListTest):
     def test_a_caption_dragged_with_the_mouse_closes(self):
         self.open()
         form = self.host.rect("form")
-        move((form[0] + 200, form[1] - 8 if form[1] > 8 else 4))
+        move((form[0] + 200, form[1] + 10))
         xdotool("mousedown", 1, "mousemove_relative", "--sync", 40, 40, "mouseup", 1)
         self.until_closed()
         self.assert_events(OPENED, CLOSED)
@@ -295,7 +292,7 @@ class HandlerTest(ListTest):
         self.host.on("Vellora1", "DropDown", {"do": "destroy", "control": "Vellora1"})
         self.host.click(self.host.middle("button"))
         self.assertEqual(0, self.host.floating())
-        self.assert_events(OPENED, CLOSED)
+        self.assertEqual(OPENED, self.host.events()[0])
 
     def test_the_control_is_destroyed_by_the_click_on_a_row(self):
         self.open()
@@ -380,4 +377,4 @@ class DialogTest(ListTest):
         self.host.key("Return")
         self.until_closed()
         self.assertEqual("row 00", self.text())
-        self.assert_events(OPENED, CLICKED, CLOSED)
+        self.assert_events(OPENED, CLICKED, CLOSED, "Vellora1.KeyUp(I2 13, I2 0)")

@@ -64,7 +64,8 @@ Site& HostTest::design(const std::wstring& name) {
 
 HWND HostTest::window_of(Site& site) {
     LONG handle = 0;
-    vellora(site)->get_hWnd(&handle);
+    if (const ComPtr<_Vellora> control = vellora(site))
+        control->get_hWnd(&handle);
     return reinterpret_cast<HWND>(static_cast<LONG_PTR>(handle));
 }
 

@@ -22,16 +22,38 @@ void register_class(WNDPROC procedure) {
     RegisterClassW(&window_class);
 }
 
+int faults = 0;
+
+LONG CALLBACK count_fault(EXCEPTION_POINTERS* exception) noexcept {
+    if (exception->ExceptionRecord->ExceptionCode == EXCEPTION_ACCESS_VIOLATION)
+        ++faults;
+    return EXCEPTION_CONTINUE_SEARCH;
+}
+
 } // namespace
+
+FaultCounter::FaultCounter() : handler_(AddVectoredExceptionHandler(1, count_fault)) {
+    faults = 0;
+}
+
+FaultCounter::~FaultCounter() {
+    RemoveVectoredExceptionHandler(handler_);
+}
+
+int FaultCounter::count() const {
+    return faults;
+}
 
 RoutingWindow::RoutingWindow() {
     register_class(procedure);
-    handle_ = CreateWindowExW(0, class_name, L"", WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN, 0, 0, 600, 500, nullptr,
-                              nullptr, nullptr, nullptr);
+    handle_ = CreateWindowExW(0, class_name, L"", WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN, 0, 0, 600, 500,
+                              nullptr, nullptr, nullptr, nullptr);
     SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
 
-RoutingWindow::~RoutingWindow() { destroy(); }
+RoutingWindow::~RoutingWindow() {
+    destroy();
+}
 
 void RoutingWindow::destroy() {
     if (handle_)
@@ -82,7 +104,15 @@ void ListWindowTest::renew_list() {
     list->listen(&recorder);
 }
 
-HWND ListWindowTest::header() const { return reinterpret_cast<HWND>(send(LVM_GETHEADER)); }
+ListWindowTest::~ListWindowTest() {
+    list.reset();
+    parent.destroy();
+    EXPECT_EQ(0, faults_.count()) << "memory faults inside window procedures";
+}
+
+HWND ListWindowTest::header() const {
+    return reinterpret_cast<HWND>(send(LVM_GETHEADER));
+}
 
 LRESULT ListWindowTest::send(UINT message, WPARAM wparam, LPARAM lparam) const {
     return SendMessageW(window(), message, wparam, lparam);

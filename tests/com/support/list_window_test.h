@@ -32,6 +32,21 @@ private:
     std::vector<UINT> codes_;
 };
 
+/// Counts memory faults in this process while it stands. The window system swallows those that happen inside
+/// a window procedure, so that a test would pass in spite of them.
+class FaultCounter {
+public:
+    FaultCounter();
+    ~FaultCounter();
+    FaultCounter(const FaultCounter&) = delete;
+    FaultCounter& operator=(const FaultCounter&) = delete;
+
+    int count() const;
+
+private:
+    void* handler_;
+};
+
 /// Writes down what the list tells, one word each, and does what the test wants in between.
 class ListRecorder final : public ListViewListener {
 public:
@@ -52,6 +67,7 @@ private:
 class ListWindowTest : public ::testing::Test {
 protected:
     ListWindowTest();
+    ~ListWindowTest() override;
 
     RoutingWindow parent;
     ListRecorder recorder;
@@ -82,6 +98,7 @@ protected:
     POINT point_in(int row, int part) const;
 
 private:
+    FaultCounter faults_;
     class FocusIgnored final : public win32::FocusListener {
         void focus_entered() override {}
         void focus_left() override {}

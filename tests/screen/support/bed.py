@@ -166,6 +166,11 @@ class FormHost:
         button = 5 if notches > 0 else 4
         self.counted("wheel", lambda: xdotool("click", "--repeat", abs(notches), "--delay", 10, button), abs(notches))
 
+    def settle(self):
+        """Everything is on the screen afterwards: painted, and sent on when the program next waits."""
+        self.do("paint")
+        self.do("floating")
+
     def activate(self):
         xdotool("windowactivate", "--sync", self.x_window)
         wait_for(lambda: self.do("form")["active"], f"{self.title} active")
@@ -227,6 +232,9 @@ class ScreenTest(unittest.TestCase):
         return host
 
     def picture(self, name):
+        for host in self.hosts:
+            if host.alive():
+                host.settle()
         folder = os.environ.get("VELLORA_ARTIFACTS") or os.path.join(ROOT, "build", "artifacts", ARCH)
         os.makedirs(folder, exist_ok=True)
         path = os.path.join(folder, f"{self._testMethodName}-{name}.png")

@@ -1,6 +1,25 @@
 #include "support/container/client_site.h"
 
 namespace vellora::test {
+namespace {
+
+LONG to_pixels(LONG himetric, LONG twips_per_pixel) {
+    return MulDiv(himetric, 1440, 2540 * twips_per_pixel);
+}
+
+// The control's place gets the size that the control says it has.
+void take_extent(SiteState& state) {
+    Microsoft::WRL::ComPtr<IOleObject> object;
+    SIZEL extent{};
+    if (!state.control || FAILED(state.control.As(&object)) ||
+        FAILED(object->GetExtent(DVASPECT_CONTENT, &extent)))
+        return;
+    const SIZE factor = twips_per_pixel();
+    state.place.right = state.place.left + to_pixels(extent.cx, factor.cx);
+    state.place.bottom = state.place.top + to_pixels(extent.cy, factor.cy);
+}
+
+} // namespace
 
 STDMETHODIMP ClientSite::SaveObject() {
     return enter("IOleClientSite::SaveObject");
@@ -28,7 +47,10 @@ STDMETHODIMP ClientSite::OnShowWindow(BOOL show) {
 
 STDMETHODIMP ClientSite::RequestNewObjectLayout() {
     const HRESULT answer = enter("IOleClientSite::RequestNewObjectLayout");
-    return FAILED(answer) ? answer : E_NOTIMPL;
+    if (FAILED(answer) || !state_.grants_sizes)
+        return FAILED(answer) ? answer : E_NOTIMPL;
+    take_extent(state_);
+    return S_OK;
 }
 
 STDMETHODIMP OleContainer::ParseDisplayName(IBindCtx*, LPOLESTR, ULONG*, IMoniker**) {

@@ -125,6 +125,7 @@ Json carry_out(HostForm& host, const Json& command) {
                                                             {"list", report_list},
                                                             {"floating", report_floating},
                                                             {"form", report_form},
+                                                            {"paint", paint_all},
                                                             {"input", report_input}};
     const std::string& name = command.must("do").text();
     const auto found = commands.find(name);

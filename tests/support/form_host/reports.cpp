@@ -92,6 +92,15 @@ Json report_floating(HostForm&, const Json&) {
     return static_cast<long>(floating_windows().size());
 }
 
+Json paint_all(HostForm& host, const Json&) {
+    std::vector<HWND> windows = floating_windows();
+    windows.push_back(host.form().frame());
+    for (HWND window : windows)
+        RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    GdiFlush();
+    return nullptr;
+}
+
 Json report_form(HostForm& host, const Json&) {
     HWND window = host.form().frame();
     return Json::Object{{"alive", window != nullptr},

@@ -17,6 +17,8 @@ Json report_caption(HostForm& host, const Json& command);
 Json report_list(HostForm& host, const Json& command);
 /// How many floating windows there are.
 Json report_floating(HostForm& host, const Json& command);
+/// Brings everything that is to be painted onto the screen.
+Json paint_all(HostForm& host, const Json& command);
 /// {"alive": ..., "active": ..., "minimised": ...}
 Json report_form(HostForm& host, const Json& command);
 /// How many input messages of each kind this program has taken from its queue.
