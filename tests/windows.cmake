@@ -21,6 +21,8 @@ target_link_libraries(com_tests PRIVATE
 # The tests load the library by its path, so nothing but this makes it.
 add_dependencies(com_tests VelloraCTL)
 
+include(${tests_dir}/hosting/hosting.cmake)
+
 # screen/: a form that the Python tests drive line by line.
 file(GLOB form_host_sources CONFIGURE_DEPENDS ${tests_dir}/support/form_host/*.cpp)
 if(form_host_sources)

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <functional>
 #include <string_view>
+#include <utility>
 
 namespace vellora {
 
@@ -17,32 +18,44 @@ struct Candidate {
     bool operator>(const Candidate& other) const { return estimate > other.estimate; }
 };
 
-/// The few texts with the greatest estimates; a heap with the least of them in front.
+/// The few texts with the greatest estimates above a floor; a heap with the least of them in front.
 class Widest {
 public:
-    explicit Widest(std::size_t kept) : kept_(kept) { heap_.reserve(kept); }
+    Widest(std::size_t kept, std::int32_t floor) : kept_(kept), floor_(floor) {}
 
     void offer(const Candidate& candidate) {
+        if (candidate.estimate <= floor_)
+            return;
         if (heap_.size() == kept_) {
-            if (candidate.estimate <= heap_.front().estimate)
-                return;
             std::pop_heap(heap_.begin(), heap_.end(), std::greater<>());
             heap_.pop_back();
         }
         heap_.push_back(candidate);
         std::push_heap(heap_.begin(), heap_.end(), std::greater<>());
+        if (heap_.size() == kept_)
+            floor_ = heap_.front().estimate;
     }
-    const std::vector<Candidate>& candidates() const { return heap_; }
+    /// The greatest first.
+    std::vector<Candidate> take() {
+        std::sort_heap(heap_.begin(), heap_.end(), std::greater<>());
+        return std::move(heap_);
+    }
 
 private:
     std::size_t kept_;
+    std::int32_t floor_;
     std::vector<Candidate> heap_;
 };
 
-// Where characters stand side by side the sum of their widths differs from the extent by at most the kerning
-// of the pairs, so the widest text is among the first few by sum. A margin in pixels instead would let every
-// row through when all are about as wide, as codes and dates are. Shaped texts keep to their sums less
-// closely.
+// How far a text may be wider than the sum of its characters: side by side they are never set further apart
+// than each takes, kerning only draws pairs together; where they are shaped, some forms are wider than the
+// letter alone.
+constexpr std::int32_t plain_growth = 1;
+constexpr std::int32_t shaped_growth = 2;
+
+// Texts with the greatest sums that are measured. Kerning changes little, so the widest is among the first
+// few by sum; a margin in pixels instead would let every row through when all are about as wide, as codes and
+// dates are. Shaped texts keep to their sums less closely.
 constexpr std::size_t plain_candidates = 16;
 constexpr std::size_t shaped_candidates = 256;
 
@@ -74,18 +87,23 @@ bool ColumnMeasure::still_holds(const Column& known, std::int32_t column, const 
 }
 
 void ColumnMeasure::measure(Column& known, std::int32_t column, const TextMeasurer& measurer) {
-    Widest plain(plain_candidates);
-    Widest shaped(shaped_candidates);
+    Widest plain(plain_candidates, known.width / plain_growth);
+    Widest shaped(shaped_candidates, known.width / shaped_growth);
     rows_.visit_texts(column, known.revision, [&](RowRef row, std::u16string_view text) {
         const CharacterWidths::Sum sum = characters_.sum(text, measurer);
         (sum.shaped ? shaped : plain).offer({sum.width, row, text});
     });
-    for (const Widest* group : {&plain, &shaped})
-        for (const Candidate& candidate : group->candidates()) {
+    const auto measure_all = [&](const std::vector<Candidate>& candidates, std::int32_t growth) {
+        for (const Candidate& candidate : candidates) {
+            if (candidate.estimate * growth <= known.width)
+                return;
             const std::int32_t width = exact_width(candidate.text, measurer);
             if (width > known.width)
                 known = {known.revision, width, candidate.row};
         }
+    };
+    measure_all(plain.take(), plain_growth);
+    measure_all(shaped.take(), shaped_growth);
 }
 
 void ColumnMeasure::invalidate() {

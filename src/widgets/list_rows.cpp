@@ -3,6 +3,8 @@
 
 #include "widgets/list_rows_store.h"
 
+#include <utility>
+
 namespace vellora {
 
 ListRows::ListRows(const TextCompare& compare) : store_(std::make_unique<Store>(compare)) {}
@@ -123,6 +125,12 @@ void ListRows::set_checked(std::int32_t row, bool checked) {
 
 std::uint64_t ListRows::revision() const {
     return store_->rows.revision();
+}
+
+void ListRows::set_interval(std::uint64_t revisions, std::function<void()> callback) {
+    store_->interval = revisions;
+    store_->next_interval = revision() + revisions;
+    store_->at_interval = std::move(callback);
 }
 
 void ListRows::visit_texts(std::int32_t column, std::uint64_t since, const TextVisitor& visit) const {

@@ -104,6 +104,10 @@ public:
     /// Raised with every change of texts or count; lets a caller keep something measured over the rows.
     std::uint64_t revision() const;
 
+    /// Has `callback` run after every so many further revisions, so that what is measured over very many rows can
+    /// keep up while they arrive. It must not change the rows nor throw. Null for none.
+    void set_interval(std::uint64_t revisions, std::function<void()> callback);
+
     using TextVisitor = std::function<void(RowRef, std::u16string_view)>;
     /// Calls `visit` with the column's text of every row that was added or got another text after the former
     /// revision `since` (0: of all rows), and with those of some unchanged rows as well. In no particular

@@ -22,6 +22,9 @@ struct ListRows::Store {
     RowsObserver* observer = nullptr;
     std::int32_t selected = -1;
     SortSettings sort;
+    std::uint64_t interval = 0;
+    std::uint64_t next_interval = 0;
+    std::function<void()> at_interval;
 
     RowRecord& record(std::int32_t row) const {
         if (row < 0 || row >= rows.count())
@@ -38,12 +41,20 @@ struct ListRows::Store {
     }
 
     void report_rows() {
+        count_interval();
         if (observer)
             observer->rows_changed();
     }
     void report_row(std::int32_t row) {
+        count_interval();
         if (observer)
             observer->row_changed(row);
+    }
+    void count_interval() {
+        if (!at_interval || rows.revision() < next_interval)
+            return;
+        next_interval = rows.revision() + interval;
+        at_interval();
     }
     void report_selection() {
         if (observer)

@@ -139,25 +139,32 @@ TEST_F(Placement, TheGripRowIsAddedOnceAtEveryOpening) {
     EXPECT_EQ(first, height_of(opened()));
 }
 
-TEST_F(Placement, ItFollowsTheFormToItsNewPlace) {
+TEST_F(Placement, ItFollowsTheControlToItsNewPlace) {
     fill_narrow(3);
     open();
     c().HideList();
-    SetWindowPos(container_.form().window(), nullptr, 220, 160, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-    container_.pump();
+    site().move({140, 200, 400, 224});
     const RECT window = opened();
     EXPECT_EQ(screen_rect(control()).left, window.left);
     EXPECT_EQ(screen_rect(control()).bottom, window.top);
+    EXPECT_EQ(260 - 1, width_of(window));
 }
 
 TEST_F(Placement, ItIsNotKeptOnTheScreen) {
-    fill_narrow(20);
-    SetWindowPos(container_.form().window(), nullptr, 100, GetSystemMetrics(SM_CYSCREEN) - 80, 0, 0,
-                 SWP_NOSIZE | SWP_NOZORDER);
-    container_.pump();
-    const RECT window = opened();
-    EXPECT_EQ(screen_rect(control()).bottom, window.top);
-    EXPECT_EQ(8 * row_height() + 4 + header_height(), height_of(window));
+    Form::Look look = bare_form();
+    look.place.top = GetSystemMetrics(SM_CYSCREEN) - 80;
+    look.place.bottom = look.place.top + 400;
+    Container low(look);
+    Site& site = low.add(__uuidof(Vellora));
+    const auto control = vellora(site);
+    for (int row = 0; row < 20; ++row)
+        control->AddItem(Variant(L"row").get(), -1);
+    control->ShowList();
+    low.pump();
+    const RECT window = screen_rect(floating_window());
+    EXPECT_EQ(screen_rect(window_of(site)).bottom, window.top);
+    EXPECT_GT(window.bottom, GetSystemMetrics(SM_CYSCREEN));
+    control->HideList();
 }
 
 } // namespace

@@ -147,7 +147,9 @@ TEST_F(Win32SurfaceTest, TheFloatingWindowIsAnUnownedToolWindowOfTheStaticClass)
 
 struct CloseJournal final : win32::FloatingWindowListener {
     int requests = 0;
+    int departures = 0;
     void close_requested() override { ++requests; }
+    void floating_window_left() override { ++departures; }
 };
 
 TEST_F(Win32SurfaceTest, ClosingTheFloatingWindowMeansTheForm) {

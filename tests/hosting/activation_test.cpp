@@ -79,7 +79,8 @@ TEST_F(ActivationTest, WithoutAnExtentItHasItsNaturalSize) {
     EXPECT_EQ(S_OK, as<IOleObject>()->GetExtent(DVASPECT_CONTENT, &extent));
     EXPECT_EQ(MulDiv(121, 2540, 96), extent.cx);
     DVEXTENTINFO info = {sizeof info, DVEXTENT_CONTENT, {}};
-    EXPECT_EQ(S_OK, as<IViewObjectEx>()->GetNaturalExtent(DVASPECT_CONTENT, -1, nullptr, nullptr, &info, &extent));
+    EXPECT_EQ(S_OK,
+              as<IViewObjectEx>()->GetNaturalExtent(DVASPECT_CONTENT, -1, nullptr, nullptr, &info, &extent));
     EXPECT_EQ(MulDiv(21, 2540, 96), extent.cy);
 }
 
@@ -238,15 +239,15 @@ TEST_F(ActivationTest, DrawsWhereverItIsAsked) {
     ReleaseDC(nullptr, screen);
     const RECTL bounds = {10, 20, 110, 44};
     SetViewportOrgEx(dc, 5, 6, nullptr);
-    EXPECT_EQ(S_OK, as<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, dc, &bounds, nullptr,
-                                            nullptr, 0));
+    EXPECT_EQ(S_OK, as<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, dc, &bounds,
+                                            nullptr, nullptr, 0));
     POINT origin = {};
     GetViewportOrgEx(dc, &origin);
     EXPECT_EQ(5, origin.x);
     DeleteDC(dc);
     EXPECT_EQ((Lines{"new", "draw 15 26 115 50"}), fixture().take_lines());
-    EXPECT_EQ(DV_E_DVASPECT, as<IViewObject>()->Draw(DVASPECT_ICON, -1, nullptr, nullptr, nullptr, dc, &bounds,
-                                                     nullptr, nullptr, 0));
+    EXPECT_EQ(DV_E_DVASPECT, as<IViewObject>()->Draw(DVASPECT_ICON, -1, nullptr, nullptr, nullptr, dc,
+                                                     &bounds, nullptr, nullptr, 0));
 }
 
 TEST_F(ActivationTest, GivesItsFaceAsMetafiles) {

@@ -91,8 +91,8 @@ TEST_F(DispatchTest, WhatDoesNotConvertIsRefused) {
 
 TEST_F(DispatchTest, AMissingMemberIsNotFound) {
     call_failing(99, DISPATCH_METHOD, {}, DISP_E_MEMBERNOTFOUND);
-    EXPECT_EQ(E_POINTER,
-              as<IDispatch>()->Invoke(halve, IID_NULL, 0, DISPATCH_METHOD, nullptr, nullptr, nullptr, nullptr));
+    EXPECT_EQ(E_POINTER, as<IDispatch>()->Invoke(halve, IID_NULL, 0, DISPATCH_METHOD, nullptr, nullptr,
+                                                 nullptr, nullptr));
 }
 
 TEST_F(DispatchTest, ColorsAreSigned) {
@@ -113,7 +113,8 @@ TEST_F(DispatchTest, AnObjectPropertyTakesAssignmentsWithAndWithoutSet) {
 
 TEST_F(DispatchTest, AnObjectStandsForItsDefaultProperty) {
     fixture().text = u"inside";
-    EXPECT_EQ("\"inside\"", call(describe, DISPATCH_METHOD, {Variant(as<IDispatch>().Get()).get()}).describe());
+    EXPECT_EQ("\"inside\"",
+              call(describe, DISPATCH_METHOD, {Variant(as<IDispatch>().Get()).get()}).describe());
     EXPECT_EQ("\"5\"", call(describe, DISPATCH_METHOD, {Variant(5).get()}).describe());
 }
 

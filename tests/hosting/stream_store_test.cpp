@@ -118,7 +118,8 @@ TEST(StreamStore, LeavesTheRestOfTheStreamAlone) {
 TEST(StreamStore, EveryShortenedStreamFails) {
     const Content whole = content_of(filled());
     for (std::size_t length = 0; length < whole.size(); ++length)
-        EXPECT_TRUE(FAILED(outcome(Content(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length)))))
+        EXPECT_TRUE(
+            FAILED(outcome(Content(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length)))))
             << length;
     EXPECT_EQ(S_OK, outcome(whole));
 }
@@ -152,7 +153,8 @@ TEST(StreamStore, OnlyStandardObjectsComeFromUntrustedData) {
     Content content = content_of(filled());
     EXPECT_EQ(S_OK, outcome(content, StoredObjects::standard));
     const BYTE font_class[] = {0x03, 0x52, 0xE3, 0x0B};
-    const auto found = std::search(content.begin(), content.end(), std::begin(font_class), std::end(font_class));
+    const auto found =
+        std::search(content.begin(), content.end(), std::begin(font_class), std::end(font_class));
     ASSERT_NE(content.end(), found);
     *found = 0x77;
     EXPECT_EQ(E_ACCESSDENIED, outcome(content, StoredObjects::standard));

@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <limits>
 #include <vector>
 
@@ -148,13 +147,13 @@ TEST(BadColumns, EndInAnErrorInEveryMember) {
     expect_usable(combo);
 }
 
-TEST(BadWidths, OfColumnsAreTheListViewsToRefuse) {
+TEST(BadWidths, OfColumnsAreRefused) {
     HeadlessControl combo;
     combo.columns().put_Columns(1);
-    for (const float width : {-2.0F, -0.5F, -infinity}) {
+    for (const float width : {-2.0F, -0.5F, -infinity, not_a_number}) {
         EXPECT_EQ(failure_of([&] { combo.columns().put_ColumnWidth(1, width); }).number, 380) << width;
     }
-    for (const float width : {0.0F, 1e30F, infinity, not_a_number}) {
+    for (const float width : {0.0F, 1e30F, infinity}) {
         EXPECT_EQ(failure_of([&] { combo.columns().put_ColumnWidth(1, width); }), no_failure) << width;
         combo.drop_down().ShowList();
         combo.drop_down().HideList();

@@ -147,7 +147,16 @@ TEST_F(ColumnMeasureTest, AppendedRowsCostOnlyThemselves) {
     texts_measured();
     add(u"1234567");
     EXPECT_EQ(widest(), 42);
-    EXPECT_LE(texts_measured(), 17);
+    EXPECT_LE(texts_measured(), 2);
+}
+
+TEST_F(ColumnMeasureTest, RowsThatAreNoWiderAreNotMeasured) {
+    add_numbers(10000);
+    widest();
+    texts_measured();
+    add_numbers(10000);
+    EXPECT_EQ(widest(), 36);
+    EXPECT_EQ(texts_measured(), 1); // whether the widest row still stands
 }
 
 TEST_F(ColumnMeasureTest, FollowsInsertedChangedAndSortedRows) {

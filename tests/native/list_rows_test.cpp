@@ -315,6 +315,26 @@ TEST_F(ListRowsTest, ReportsNothingThatIsNoChange) {
     EXPECT_EQ(recorder.take(), Notes{});
 }
 
+TEST_F(ListRowsTest, CallsBackAtIntervals) {
+    int calls = 0;
+    add(u"before");
+    rows_.set_interval(10, [&] { ++calls; });
+    for (int i = 0; i < 9; ++i)
+        rows_.append();
+    EXPECT_EQ(calls, 0);
+    rows_.set_text(0, 0, u"tenth");
+    EXPECT_EQ(calls, 1);
+    rows_.set_checked(0, true);
+    for (int i = 0; i < 9; ++i)
+        rows_.remove(0);
+    EXPECT_EQ(calls, 1);
+    rows_.clear();
+    EXPECT_EQ(calls, 2);
+    rows_.set_interval(1, nullptr);
+    rows_.append();
+    EXPECT_EQ(calls, 2);
+}
+
 TEST_F(ListRowsTest, VisitsTheTextsOfAColumn) {
     add(u"a");
     const RowRef b = add(u"b");

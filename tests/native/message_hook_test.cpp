@@ -8,7 +8,6 @@
 
 #include <functional>
 #include <memory>
-#include <utility>
 
 namespace vellora::test {
 

@@ -1,7 +1,6 @@
-// Where the floating window goes and how large it is. The control stands at 100,200 on the screen and is 200
-// pixels wide and 21 high; a pixel is 15 twips, a row 17 pixels, a header 20, a scroll bar 17.
+// Where the floating window goes and how large it is.
+#include "support/headless/drop_down_combo.h"
 #include "support/headless/failure.h"
-#include "support/headless/headless_control.h"
 
 #include <gtest/gtest.h>
 
@@ -28,30 +27,8 @@ namespace vellora::test {
 
 namespace {
 
-const Failure invalid_value{380, u"", u""};
-
-/// A control whose only column is narrow enough for no scroll bar.
-struct Narrow : HeadlessControl {
-    explicit Narrow(int rows = 3) {
-        columns().put_ColumnWidth(1, 1500);
-        add_rows(rows);
-        journal().take_all();
-    }
-
-    PixelRect popup() { return desktop().screen_rect(state().mlStatic_hWnd); }
-    PixelRect open() {
-        drop_down().ShowList();
-        return popup();
-    }
-    std::int32_t open_height() {
-        const PixelRect rect = open();
-        return rect.bottom - rect.top;
-    }
-    PixelRect list_in_popup() { return desktop().at(list_view.window()).rect; }
-};
-
 /// Gives the list other scroll bars in the floating window than it has in the control.
-void change_scroll_bars(Narrow& combo, std::uint32_t in_control, std::uint32_t in_popup) {
+void change_scroll_bars(DropDownCombo& combo, std::uint32_t in_control, std::uint32_t in_popup) {
     combo.list_view.scroll_bars = [&combo, in_control, in_popup] {
         const WindowHandle parent = combo.desktop().at(combo.list_view.window()).parent;
         return combo.desktop().name(parent) == "popup" ? in_popup : in_control;
@@ -64,7 +41,7 @@ constexpr std::uint32_t down = window_style::vertical_scroll_bar;
 } // namespace
 
 TEST(Placement, StartsAtTheLowerEdgeOneTwipPixelNarrowerThanTheControl) {
-    Narrow combo;
+    DropDownCombo combo;
     // 3 rows of 17, borders 4, header 20 + 1
     EXPECT_EQ(combo.open(), (PixelRect{100, 221, 299, 297}));
     EXPECT_EQ(combo.list_in_popup(), (PixelRect{0, 0, 199, 76}));
@@ -72,7 +49,7 @@ TEST(Placement, StartsAtTheLowerEdgeOneTwipPixelNarrowerThanTheControl) {
 
 TEST(Placement, IgnoresTheAlignmentWithoutAnOffset) {
     for (const std::int32_t alignment : {0, 1, 2}) {
-        Narrow combo;
+        DropDownCombo combo;
         combo.placement().put_DropDownAlignment(alignment);
         const PixelRect rect = combo.open();
         EXPECT_EQ(rect.left, 100) << alignment;
@@ -83,7 +60,7 @@ TEST(Placement, IgnoresTheAlignmentWithoutAnOffset) {
 TEST(Placement, KeepsTheAlignedEdgeWithAWiderDropDown) {
     const std::vector<std::pair<std::int32_t, std::int32_t>> left_edges{{0, 100}, {1, 60}, {2, 80}, {7, 100}};
     for (const auto& [alignment, left] : left_edges) {
-        Narrow combo;
+        DropDownCombo combo;
         combo.placement().put_DropDownWidthOffset(600); // 40 pixels
         combo.placement().put_DropDownAlignment(alignment);
         const PixelRect rect = combo.open();
@@ -95,7 +72,7 @@ TEST(Placement, KeepsTheAlignedEdgeWithAWiderDropDown) {
 TEST(Placement, KeepsTheAlignedEdgeWithANarrowerDropDown) {
     const std::vector<std::pair<std::int32_t, std::int32_t>> left_edges{{0, 100}, {1, 140}, {2, 120}};
     for (const auto& [alignment, left] : left_edges) {
-        Narrow combo;
+        DropDownCombo combo;
         combo.placement().put_DropDownWidthOffset(-600);
         combo.placement().put_DropDownAlignment(alignment);
         const PixelRect rect = combo.open();
@@ -105,13 +82,13 @@ TEST(Placement, KeepsTheAlignedEdgeWithANarrowerDropDown) {
 }
 
 TEST(Placement, GoesOffTheScreenWithTheControl) {
-    Narrow combo;
+    DropDownCombo combo;
     combo.surface.place(-500, -300);
     EXPECT_EQ(combo.open(), (PixelRect{-500, -279, -301, -203}));
 }
 
 TEST(Placement, OpensAnEmptyListOneRowTallWithoutHeaders) {
-    Narrow combo(0);
+    DropDownCombo combo(0);
     // a line of 195 twips and a pixel, borders 4 pixels
     EXPECT_EQ(combo.open_height(), 18);
     EXPECT_EQ(combo.surface.measured, u"Yy");
@@ -120,7 +97,7 @@ TEST(Placement, OpensAnEmptyListOneRowTallWithoutHeaders) {
 }
 
 TEST(Placement, ShowsHeadersAgainOnceThereAreRows) {
-    Narrow combo(0);
+    DropDownCombo combo(0);
     combo.open();
     combo.drop_down().HideList();
     combo.add_rows(1);
@@ -129,86 +106,86 @@ TEST(Placement, ShowsHeadersAgainOnceThereAreRows) {
 }
 
 TEST(Placement, OpensAsTallAsItsRowsUpToDropDownHeight) {
-    EXPECT_EQ(Narrow(3).open_height(), 3 * 17 + 25);
-    EXPECT_EQ(Narrow(8).open_height(), 8 * 17 + 25);
-    EXPECT_EQ(Narrow(20).open_height(), 8 * 17 + 25);
+    EXPECT_EQ(DropDownCombo(3).open_height(), 3 * 17 + 25);
+    EXPECT_EQ(DropDownCombo(8).open_height(), 8 * 17 + 25);
+    EXPECT_EQ(DropDownCombo(20).open_height(), 8 * 17 + 25);
 }
 
 TEST(Placement, RoundsPartsOfRowsHalfToEven) {
     const std::vector<std::pair<float, std::int32_t>> rows_shown{
         {1, 1}, {1.5F, 2}, {2.5F, 2}, {2.6F, 3}, {3.5F, 4}, {19.5F, 20}, {20.5F, 20}};
     for (const auto& [height, rows] : rows_shown) {
-        Narrow combo(20);
+        DropDownCombo combo(20);
         combo.placement().put_DropDownHeight(height);
         EXPECT_EQ(combo.open_height(), rows * 17 + 25) << height;
     }
 }
 
 TEST(Placement, TakesTheListsRowHeight) {
-    Narrow combo(2);
+    DropDownCombo combo(2);
     combo.list_view.set_row_height(300);
     EXPECT_EQ(combo.open_height(), 2 * 20 + 25);
 }
 
 TEST(Placement, CountsNoHeaderThatIsHidden) {
-    Narrow combo(3);
+    DropDownCombo combo(3);
     combo.columns().put_HideColumnHeaders(true);
     EXPECT_EQ(combo.open_height(), 3 * 17 + 4);
     EXPECT_TRUE(combo.list_view.hide_column_headers());
 }
 
 TEST(Placement, CountsNoHeaderThatIsMissing) {
-    Narrow combo(3);
+    DropDownCombo combo(3);
     combo.list_view.without_header = true;
     EXPECT_EQ(combo.open_height(), 3 * 17 + 4);
 }
 
 TEST(Placement, CountsNoHeaderWhoseRectangleCannotBeRead) {
-    Narrow combo(3);
+    DropDownCombo combo(3);
     combo.user32.without_rect = combo.list_view.header_window();
     EXPECT_EQ(combo.open_height(), 3 * 17 + 4);
 }
 
 TEST(Placement, CountsOnePixelMoreThanTheHeaderHas) {
-    Narrow combo(1);
+    DropDownCombo combo(1);
     combo.list_view.set_header_height(33);
     EXPECT_EQ(combo.open_height(), 17 + 4 + 34);
 }
 
 TEST(Placement, MakesRoomForAHorizontalScrollBar) {
-    Narrow combo(3);
+    DropDownCombo combo(3);
     combo.columns().put_ColumnWidth(1, 6000);
     EXPECT_EQ(combo.open_height(), 76 + 17);
     EXPECT_EQ(combo.list_in_popup(), (PixelRect{0, 0, 199, 93}));
 }
 
 TEST(Placement, MakesNoRoomForAVerticalScrollBar) {
-    Narrow combo(20);
+    DropDownCombo combo(20);
     combo.list_view.scroll_bars = [] { return down; };
     EXPECT_EQ(combo.open_height(), 8 * 17 + 25);
 }
 
 TEST(Placement, MakesRoomForAScrollBarThatComesInTheFloatingWindow) {
-    Narrow combo(3);
+    DropDownCombo combo(3);
     change_scroll_bars(combo, 0, across);
     EXPECT_EQ(combo.open(), (PixelRect{100, 221, 299, 297 + 17}));
     EXPECT_EQ(combo.list_in_popup(), (PixelRect{0, 0, 199, 93}));
 }
 
 TEST(Placement, MakesRoomEvenForAScrollBarThatGoes) {
-    Narrow combo(3);
+    DropDownCombo combo(3);
     change_scroll_bars(combo, across, 0);
     EXPECT_EQ(combo.open_height(), 76 + 17 + 17);
 }
 
 TEST(Placement, MakesRoomForAScrollBarThatReplacesTheOther) {
-    Narrow combo(3);
+    DropDownCombo combo(3);
     change_scroll_bars(combo, down, across);
     EXPECT_EQ(combo.open_height(), 76 + 17);
 }
 
 TEST(Placement, GrowsTheWindowWithoutRepaintingIt) {
-    Narrow combo(3);
+    DropDownCombo combo(3);
     change_scroll_bars(combo, 0, across);
     combo.open();
     const Lines calls = combo.journal().take_system();
@@ -216,7 +193,7 @@ TEST(Placement, GrowsTheWindowWithoutRepaintingIt) {
 }
 
 TEST(Placement, HasNoHighlightedRowWithoutASelection) {
-    Narrow combo(3);
+    DropDownCombo combo(3);
     combo.selection().put_ListIndex(2);
     combo.selection().put_ListIndex(-1);
     combo.list_view.scrolled_to.clear();
@@ -226,7 +203,7 @@ TEST(Placement, HasNoHighlightedRowWithoutASelection) {
 }
 
 TEST(Placement, ScrollsTheSelectedRowIntoView) {
-    Narrow combo(20);
+    DropDownCombo combo(20);
     combo.selection().put_ListIndex(12);
     combo.list_view.scrolled_to.clear();
     combo.open();
@@ -235,7 +212,7 @@ TEST(Placement, ScrollsTheSelectedRowIntoView) {
 }
 
 TEST(Placement, EnablesTheListAsTheControlIs) {
-    Narrow combo;
+    DropDownCombo combo;
     combo.state().mbEnabled = false;
     combo.list_view.set_enabled(true);
     combo.open();
@@ -247,7 +224,7 @@ TEST(Placement, EnablesTheListAsTheControlIs) {
 }
 
 TEST(Placement, BringsTheListBackHiddenOnClosing) {
-    Narrow combo;
+    DropDownCombo combo;
     combo.open();
     EXPECT_TRUE(combo.list_view.visible());
     EXPECT_EQ(combo.desktop().name(combo.desktop().at(combo.list_view.window()).parent), "popup");
@@ -259,7 +236,7 @@ TEST(Placement, BringsTheListBackHiddenOnClosing) {
 }
 
 TEST(ResizableDropDown, AddsAGripRowBelowTheList) {
-    Narrow combo;
+    DropDownCombo combo;
     combo.state().mbAllowResize = true;
     EXPECT_EQ(combo.open(), (PixelRect{100, 221, 299, 297 + 16})); // a grip of 240 twips
     EXPECT_EQ(combo.desktop().at(combo.frame.window()).parent, combo.state().mlStatic_hWnd);
@@ -271,7 +248,7 @@ TEST(ResizableDropDown, AddsAGripRowBelowTheList) {
 }
 
 TEST(ResizableDropDown, GivesFrameAndListBackOnClosing) {
-    Narrow combo;
+    DropDownCombo combo;
     combo.state().mbAllowResize = true;
     combo.open();
     combo.drop_down().HideList();
@@ -282,7 +259,7 @@ TEST(ResizableDropDown, GivesFrameAndListBackOnClosing) {
 }
 
 TEST(ResizableDropDown, DoesNotGrowFromOpeningToOpening) {
-    Narrow combo;
+    DropDownCombo combo;
     combo.state().mbAllowResize = true;
     const std::int32_t first = combo.open_height();
     combo.drop_down().HideList();
@@ -290,7 +267,7 @@ TEST(ResizableDropDown, DoesNotGrowFromOpeningToOpening) {
 }
 
 TEST(ResizableDropDown, LeavesAFrameThatWasNotMovedAlone) {
-    Narrow combo;
+    DropDownCombo combo;
     combo.open();
     combo.frame.set_visible(true);
     combo.drop_down().HideList();
@@ -298,7 +275,7 @@ TEST(ResizableDropDown, LeavesAFrameThatWasNotMovedAlone) {
 }
 
 TEST(FormCaption, StaysActiveWhileTheListHasTheFocus) {
-    Narrow combo;
+    DropDownCombo combo;
     combo.open();
     Lines calls = combo.journal().take_system();
     EXPECT_EQ(calls.back(), "send form 0x0086 1 1");
@@ -308,7 +285,7 @@ TEST(FormCaption, StaysActiveWhileTheListHasTheFocus) {
 }
 
 TEST(FormCaption, OfAnMdiChildIsItsClientsAndFrames) {
-    Narrow combo;
+    DropDownCombo combo;
     combo.site.mdi_child = true;
     combo.open();
     const Lines calls = combo.journal().take_system();
@@ -319,7 +296,7 @@ TEST(FormCaption, OfAnMdiChildIsItsClientsAndFrames) {
 }
 
 TEST(FormCaption, IsNobodysBusinessWithoutAForm) {
-    Narrow combo;
+    DropDownCombo combo;
     combo.site.form = 0;
     combo.open();
     const Lines calls = combo.journal().take_system();
@@ -327,7 +304,7 @@ TEST(FormCaption, IsNobodysBusinessWithoutAForm) {
 }
 
 TEST(PlacementArithmetic, OverflowsFarOffTheScreenAndRecovers) {
-    Narrow combo;
+    DropDownCombo combo;
     combo.surface.place(200'000'000, 200);
     EXPECT_EQ(failure_of([&] { combo.drop_down().ShowList(); }), (Failure{6, u"", u""}));
     EXPECT_EQ(combo.journal().take_events(), Lines{});
@@ -337,7 +314,7 @@ TEST(PlacementArithmetic, OverflowsFarOffTheScreenAndRecovers) {
 }
 
 TEST(PlacementArithmetic, FailsWithoutPixels) {
-    Narrow combo;
+    DropDownCombo combo;
     combo.state().miTwipsPerPixelX = 0;
     EXPECT_EQ(failure_of([&] { combo.drop_down().ShowList(); }), (Failure{11, u"", u""}));
     combo.state().miTwipsPerPixelX = 15;
@@ -349,7 +326,7 @@ TEST(PlacementArithmetic, FailsWithoutPixels) {
 }
 
 TEST(PlacementArithmetic, OverflowsWithMoreRowsToShowThanAnIntegerHolds) {
-    Narrow combo(0);
+    DropDownCombo combo(0);
     combo.placement().put_DropDownHeight(32768);
     combo.write(32767, -1, u"x");
     combo.add(u"one more");
@@ -357,7 +334,7 @@ TEST(PlacementArithmetic, OverflowsWithMoreRowsToShowThanAnIntegerHolds) {
 }
 
 TEST(PlacementArithmetic, ThatFailsInTheMiddleOfAnOpeningLeavesAListThatOpensAgain) {
-    Narrow combo;
+    DropDownCombo combo;
     change_scroll_bars(combo, 0, across);
     combo.user32.metrics[system_metric::scroll_bar_height] = std::numeric_limits<int>::max();
     EXPECT_EQ(failure_of([&] { combo.drop_down().ShowList(); }).number, 6);
@@ -367,51 +344,6 @@ TEST(PlacementArithmetic, ThatFailsInTheMiddleOfAnOpeningLeavesAListThatOpensAga
     combo.journal().take_all();
     EXPECT_EQ(combo.open_height(), 76);
     EXPECT_EQ(combo.journal().take_events(), Lines{"DropDown(open)"});
-}
-
-TEST(DropDownHeight, BelowOneRowIsRefusedAndKept) {
-    HeadlessControl combo;
-    for (const float rows : {0.99F, 0.0F, -3.0F, std::numeric_limits<float>::quiet_NaN()}) {
-        EXPECT_EQ(failure_of([&] { combo.placement().put_DropDownHeight(rows); }), invalid_value) << rows;
-    }
-    EXPECT_EQ(combo.placement().DropDownHeight(), 8.0F);
-    EXPECT_EQ(combo.journal().take_all(), Lines{});
-}
-
-TEST(DropDownHeight, FromOneRowOnIsStoredAndReported) {
-    HeadlessControl combo;
-    combo.placement().put_DropDownHeight(1);
-    combo.placement().put_DropDownHeight(2.5F);
-    EXPECT_EQ(combo.placement().DropDownHeight(), 2.5F);
-    EXPECT_EQ(combo.journal().take_all(), (Lines{"Changed(DropDownHeight)", "Changed(DropDownHeight)"}));
-}
-
-TEST(DropDownSettings, AreReportedByTheirOwnNames) {
-    HeadlessControl combo;
-    combo.placement().put_DropDownWidthOffset(-15);
-    combo.placement().put_DropDownAlignment(9);
-    combo.placement().put_DropDownBackColor(0x00FF00);
-    combo.placement().put_DropDownForeColor(0x80000008);
-    EXPECT_EQ(combo.placement().DropDownWidthOffset(), -15.0F);
-    EXPECT_EQ(combo.placement().DropDownAlignment(), 9);
-    EXPECT_EQ(combo.placement().DropDownBackColor(), 0x00FF00U);
-    EXPECT_EQ(combo.list_view.back_color(), 0x00FF00U);
-    EXPECT_EQ(combo.placement().DropDownForeColor(), 0x80000008U);
-    EXPECT_EQ(combo.list_view.fore_color(), 0x80000008U);
-    EXPECT_EQ(combo.journal().take_all(),
-              (Lines{"Changed(DropDownWidthOffset)", "Changed(DropDownAlignment)",
-                     "Changed(DropDownBackColor)", "Changed(DropDownForeColor)"}));
-}
-
-TEST(DropDownSettings, AreNotReportedWhileLoading) {
-    HeadlessControl combo;
-    combo.state().mbLoadingProperties = true;
-    combo.placement().put_DropDownHeight(3);
-    combo.placement().put_DropDownWidthOffset(15);
-    combo.placement().put_DropDownAlignment(1);
-    combo.placement().put_DropDownBackColor(0);
-    combo.placement().put_DropDownForeColor(0);
-    EXPECT_EQ(combo.journal().take_all(), Lines{});
 }
 
 } // namespace vellora::test

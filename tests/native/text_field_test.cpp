@@ -1,5 +1,4 @@
 // Keys, typing and completion in the text field, and what of it reaches the program.
-#include "support/headless/failure.h"
 #include "support/headless/headless_control.h"
 #include "support/headless/user.h"
 

@@ -270,6 +270,7 @@ class FormTest(ListTest):
         self.assert_events(OPENED, CLOSED)
         self.picture("minimised")
         self.host.activate()
+        self.until(lambda: not self.host.do("form")["minimised"], "the form to be restored")
         self.open()
 
     def test_the_closed_form_leaves_nothing_behind(self):

@@ -51,13 +51,6 @@ LRESULT answer_notification(HWND window, WPARAM wparam, LPARAM lparam) {
     return answer ? *answer : DefSubclassProc(window, WM_NOTIFY, wparam, lparam);
 }
 
-// A click into the window that is active already changes nothing. Activating it anew would make a window manager
-// take the form's caption for that of a window nobody works with.
-LRESULT activate_by_mouse(HWND window, WPARAM wparam, LPARAM lparam) {
-    return GetActiveWindow() == window ? MA_NOACTIVATE
-                                       : DefSubclassProc(window, WM_MOUSEACTIVATE, wparam, lparam);
-}
-
 LRESULT lose_focus(HWND window, const Owner& owner, HWND next) {
     if (owner.listener != nullptr && !IsChild(window, next)) {
         owner.listener->floating_window_left();
@@ -86,8 +79,6 @@ LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lpar
             return lose_focus(window, *owner, reinterpret_cast<HWND>(wparam));
         case WM_NCHITTEST:
             return HTCLIENT;
-        case WM_MOUSEACTIVATE:
-            return activate_by_mouse(window, wparam, lparam);
         case WM_ERASEBKGND:
             return erase(window, reinterpret_cast<HDC>(wparam));
         case WM_PAINT:

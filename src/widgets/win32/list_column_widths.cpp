@@ -3,6 +3,7 @@
 #include "widgets/win32/text_measure.h"
 
 #include <algorithm>
+#include <exception>
 
 namespace vellora::win32 {
 
@@ -11,12 +12,35 @@ namespace {
 // What the platform's list leaves beside a text.
 constexpr int text_margins = 12;
 
+// Changes of the rows after which the widths are brought up to date ahead of any question.
+constexpr std::uint64_t changes_at_a_time = 30'000;
+
 // A header without visual style draws a raised edge besides.
 int caption_margins() {
     return text_margins + 2 * GetSystemMetrics(SM_CXEDGE);
 }
 
 } // namespace
+
+ListColumnWidths::ListColumnWidths(const ListWindow& window, const ListHeaders& headers, ListRows& rows)
+    : window_(window), headers_(headers), rows_(rows), measure_(rows) {
+    rows_.set_interval(changes_at_a_time, [this] { keep_up(); });
+}
+
+ListColumnWidths::~ListColumnWidths() {
+    rows_.set_interval(0, nullptr);
+}
+
+// Without this the first opening after 100,000 rows were added would be the one to measure them all.
+void ListColumnWidths::keep_up() noexcept {
+    try {
+        for (std::int32_t column = 0; window_.handle() && column < headers_.count(); ++column)
+            for_content(column);
+    } catch (const std::exception&) {
+        // Memory is short. What could not be measured now is measured when it is asked for.
+        return;
+    }
+}
 
 HFONT ListColumnWidths::font() const {
     return reinterpret_cast<HFONT>(window_.native(WM_GETFONT));

@@ -9,8 +9,10 @@ namespace vellora::win32 {
 
 class ListColumnWidths {
 public:
-    ListColumnWidths(const ListWindow& window, const ListHeaders& headers, const ListRows& rows)
-        : window_(window), headers_(headers), measure_(rows) {}
+    ListColumnWidths(const ListWindow& window, const ListHeaders& headers, ListRows& rows);
+    ~ListColumnWidths();
+    ListColumnWidths(const ListColumnWidths&) = delete;
+    ListColumnWidths& operator=(const ListColumnWidths&) = delete;
 
     /// Pixels, for a column that exists, counted from 0.
     int for_content(std::int32_t column);
@@ -20,6 +22,7 @@ public:
     void font_changed() { measure_.invalidate(); }
 
 private:
+    void keep_up() noexcept;
     HFONT font() const;
     int for_caption(std::int32_t column) const;
     int icon_width(std::int32_t column) const;
@@ -27,6 +30,7 @@ private:
 
     const ListWindow& window_;
     const ListHeaders& headers_;
+    ListRows& rows_;
     ColumnMeasure measure_;
 };
 

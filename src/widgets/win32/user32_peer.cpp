@@ -39,6 +39,8 @@ WindowHandle User32Peer::parent(WindowHandle window) const {
 void User32Peer::move_window(WindowHandle window, const PixelRect& rect, bool repaint) {
     MoveWindow(as_window(window), rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
                repaint);
+    // What a window gains without a repaint shows anything at all, its border first; it is painted when there is time.
+    RedrawWindow(as_window(window), nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN);
 }
 
 std::optional<PixelRect> User32Peer::window_rect(WindowHandle window) const {

@@ -11,8 +11,8 @@ FixtureControl* FixtureControl::last = nullptr;
 
 FixtureControl::FixtureControl(com::ControlHost& host)
     : host_(host), members_(host, *this),
-      window_(CreateWindowExW(0, L"Static", L"", WS_CHILD, 0, 0, 0, 0, host.parking_window(), nullptr, nullptr,
-                              nullptr)) {
+      window_(CreateWindowExW(0, L"Static", L"", WS_CHILD, 0, 0, 0, 0, host.parking_window(), nullptr,
+                              nullptr, nullptr)) {
     last = this;
 }
 
@@ -37,7 +37,9 @@ void FixtureControl::draw(HDC dc, const RECT& bounds) {
     Rectangle(dc, bounds.left, bounds.top, bounds.right, bounds.bottom);
 }
 
-void FixtureControl::on_ambient_changed(DISPID id) { note("ambient " + std::to_string(id)); }
+void FixtureControl::on_ambient_changed(DISPID id) {
+    note("ambient " + std::to_string(id));
+}
 
 void FixtureControl::initialise_new() {
     note("new");
@@ -123,7 +125,9 @@ STDMETHODIMP FixtureMembers::put_Mode(fixMode value) noexcept {
     return S_OK;
 }
 
-STDMETHODIMP FixtureMembers::get_Font(IFontDisp** result) noexcept { return control_.font.CopyTo(result); }
+STDMETHODIMP FixtureMembers::get_Font(IFontDisp** result) noexcept {
+    return control_.font.CopyTo(result);
+}
 
 STDMETHODIMP FixtureMembers::putref_Font(IFontDisp* value) noexcept {
     control_.font = value;

@@ -20,14 +20,26 @@ def wine_command(program, *arguments):
     return [os.path.join(ROOT, "vellora"), "wine", *wide, program, *arguments]
 
 
+def artifact(name):
+    """The path of a file to be kept for whoever looks into a failure."""
+    folder = os.environ.get("VELLORA_ARTIFACTS") or os.path.join(ROOT, "build", "artifacts", ARCH)
+    os.makedirs(folder, exist_ok=True)
+    return os.path.join(folder, name)
+
+
+def photograph(path):
+    subprocess.run(["import", "-window", "root", path], check=True)
+
+
 def wait_for(condition, what, patience=PATIENCE):
-    """Asks until the answer is true; the answer. Fails with `what` when it never is."""
+    """Asks until the answer is true; the answer. Fails with `what`, and a picture, when it never is."""
     end = time.monotonic() + patience
     while True:
         answer = condition()
         if answer:
             return answer
         if time.monotonic() > end:
+            photograph(artifact(f"in-vain-{re.sub('[^a-z0-9]+', '-', what.lower())}.png"))
             raise AssertionError(f"waited in vain: {what}")
         time.sleep(0.02)
 
@@ -235,10 +247,8 @@ class ScreenTest(unittest.TestCase):
         for host in self.hosts:
             if host.alive():
                 host.settle()
-        folder = os.environ.get("VELLORA_ARTIFACTS") or os.path.join(ROOT, "build", "artifacts", ARCH)
-        os.makedirs(folder, exist_ok=True)
-        path = os.path.join(folder, f"{self._testMethodName}-{name}.png")
-        subprocess.run(["import", "-window", "root", path], check=True)
+        path = artifact(f"{type(self).__name__}-{self._testMethodName}-{name}.png")
+        photograph(path)
         return Picture(path)
 
     def until(self, condition, what):

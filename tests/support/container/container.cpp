@@ -19,8 +19,10 @@ void must(HRESULT result, const wchar_t* step) {
 Container::Container(const Form::Look& look) : form_(look) {}
 
 Container::~Container() {
-    for (const ComPtr<Site>& site : sites_)
+    for (const ComPtr<Site>& site : sites_) {
+        site->events().forget_handlers();
         site->destroy();
+    }
     destroy_form();
 }
 

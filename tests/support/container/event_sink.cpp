@@ -112,6 +112,11 @@ void EventSink::on_every(std::function<void(const std::string&, EventArguments&)
     observer_ = std::move(observer);
 }
 
+void EventSink::forget_handlers() {
+    handlers_.clear();
+    observer_ = {};
+}
+
 void EventSink::ignore(const std::string& name) {
     ignored_.push_back(name);
 }

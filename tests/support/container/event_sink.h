@@ -50,6 +50,8 @@ public:
     void on(const std::string& name, Handler handler);
     /// Sees every event, before the handler of its own name.
     void on_every(std::function<void(const std::string& name, EventArguments&)> observer);
+    /// Takes all handlers out, whose captures may be about to end.
+    void forget_handlers();
     /// Names that are not noted (mouse moves, say); their handlers still run.
     void ignore(const std::string& name);
 

@@ -21,7 +21,7 @@ public:
         RECT place{100, 100, 640, 500}; // on the screen
         bool visible = true;
         /// Without caption and out of the window manager's hands, which gives and takes the focus in its own
-        /// time. For tests that do not look at the screen.
+        /// time. Moving it later would hand it over. For tests that do not look at the screen.
         bool bare = false;
     };
     /// Sees every message of the form first.

@@ -41,10 +41,11 @@ public:
 private:
     void adopt(const std::string& name, Site& site);
 
-    Container container_;
     std::map<std::string, Site*> controls_;
     std::map<std::string, HWND> edits_;
     std::vector<std::string> events_;
+    // Ends first: controls raise events while they go.
+    Container container_;
 };
 
 } // namespace vellora::test

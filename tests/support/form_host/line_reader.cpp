@@ -36,22 +36,21 @@ LineReader::LineReader(std::function<void(const std::string&)> take) : take_(std
 }
 
 LineReader::~LineReader() {
-    // The thread may still wait for input that nobody will send.
-    thread_.detach();
+    // It has ended, or will when its input does: a thread that still ran at the end of the program could not
+    // be trusted to find anything in place.
+    thread_.join();
     DestroyWindow(window_);
 }
 
-void LineReader::read() {
-    const HWND window = window_;
+void LineReader::read() const {
     std::string line;
-    while (next_line(line)) {
+    while (line != "quit") {
+        if (!next_line(line))
+            line = "quit";
         auto copy = std::make_unique<std::string>(line);
-        if (PostMessageW(window, line_came, 0, reinterpret_cast<LPARAM>(copy.get())))
-            copy.release();
+        if (PostMessageW(window_, line_came, 0, reinterpret_cast<LPARAM>(copy.get())))
+            static_cast<void>(copy.release());
     }
-    auto end = std::make_unique<std::string>("quit");
-    if (PostMessageW(window, line_came, 0, reinterpret_cast<LPARAM>(end.get())))
-        end.release();
 }
 
 LRESULT CALLBACK LineReader::procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) noexcept {

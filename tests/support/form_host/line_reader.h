@@ -12,7 +12,7 @@ namespace vellora::test {
 class LineReader {
 public:
     /// `take` runs in the thread that made the reader, for each line without its end. The end of the input
-    /// counts as the line "quit".
+    /// counts as the line "quit", after which nothing more is read.
     explicit LineReader(std::function<void(const std::string&)> take);
     LineReader(const LineReader&) = delete;
     LineReader& operator=(const LineReader&) = delete;
@@ -20,7 +20,7 @@ public:
 
 private:
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) noexcept;
-    void read();
+    void read() const;
 
     std::function<void(const std::string&)> take_;
     HWND window_;
