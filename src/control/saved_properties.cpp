@@ -26,6 +26,10 @@ SavedValue ambient_font(const ControlCore& core) { return core.site.ambient_font
 
 template <auto Field> SavedValue field(const ControlCore& core) { return core.state.*Field; }
 template <auto Field> SavedValue color_field(const ControlCore& core) { return as_long(core.state.*Field); }
+// A control that was never set up has none, and saves none.
+SavedValue columns_in_use(const ControlCore& core) {
+    return std::max(core.state.miColumns, std::int16_t{1});
+}
 SavedValue text(const ControlCore& core) { return core.live_text_box().text(); }
 SavedValue text_fore_color(const ControlCore& core) { return as_long(core.live_text_box().fore_color()); }
 SavedValue text_back_color(const ControlCore& core) { return as_long(core.live_text_box().back_color()); }
@@ -39,7 +43,7 @@ constexpr auto integer_1 = fixed<std::int16_t{1}>;
 
 const std::array before_columns{
     SavedProperty{u"Text", no_text, text},
-    SavedProperty{u"Columns", integer_1, field<&S::miColumns>},
+    SavedProperty{u"Columns", integer_1, columns_in_use},
 };
 
 // The drop-down's colours are saved from the text field's, and BackColor a second time from there; the second value

@@ -1,10 +1,12 @@
 ' Columns as a script without any form uses them.
 Option Explicit
 
-Dim combo
+Dim combo, checks
+checks = 0
 Set combo = CreateObject("VelloraCTL.Vellora")
 
 Sub Check(name, expected, actual)
+    checks = checks + 1
     If expected = actual Then
         WScript.Echo "ok " & name
     Else
@@ -13,6 +15,7 @@ Sub Check(name, expected, actual)
 End Sub
 
 Sub CheckError(name, number, description)
+    checks = checks + 1
     If Err.Number = number And Err.Description = description Then
         WScript.Echo "ok " & name
     Else
@@ -69,3 +72,4 @@ CheckError "reading a flag outside the array", 9, "Subscript out of range"
 combo.ColumnWidth(40) = 100
 CheckError "a width of a column that is not there", 35600, "Index out of bounds"
 Check "nothing of that changed the columns", 2, combo.Columns
+WScript.Echo "1.." & checks

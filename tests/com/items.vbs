@@ -1,10 +1,12 @@
 ' Rows as a script without any form uses them.
 Option Explicit
 
-Dim combo
+Dim combo, checks
+checks = 0
 Set combo = CreateObject("VelloraCTL.Vellora")
 
 Sub Check(name, expected, actual)
+    checks = checks + 1
     If expected = actual And VarType(expected) = VarType(actual) Then
         WScript.Echo "ok " & name
     Else
@@ -13,6 +15,7 @@ Sub Check(name, expected, actual)
 End Sub
 
 Sub CheckError(name, number, description)
+    checks = checks + 1
     If Err.Number = number And Err.Description = description Then
         WScript.Echo "ok " & name
     Else
@@ -51,11 +54,10 @@ combo.TextColumn = 1
 Dim row
 row = combo.List(1, -2)
 Check "a row comes as an array of texts", vbArray + vbString, VarType(row)
-Check "the array counts from 0", CLng(0), CLng(LBound(row))
-Check "the array has an element per column", CLng(1), CLng(UBound(row))
-Check "all rows come as a table", CLng(2), CLng(UBound(combo.List(0, -3), 1))
-Check "rows first", CLng(1), CLng(UBound(combo.List(0, -3), 2))
-Check "columns first", CLng(1), CLng(UBound(combo.List(0, -4), 1))
+Check "all rows come as a table", vbArray + vbString, VarType(combo.List(0, -3))
+combo.AddItem row
+Check "an array that was read can be handed back", "2", combo.List(3, 2)
+combo.RemoveItem 3
 
 combo.ListIndex = 1
 Check "ListIndex selects", CLng(1), combo.ListIndex
@@ -88,7 +90,7 @@ Check "a table written columns first", "r", combo.List(0, 2)
 On Error Resume Next
 combo.RemoveItem 99
 CheckError "a missing row raises 381", 381, "Invalid property array index"
-combo.List 99
+row = combo.List(99)
 CheckError "reading a missing row raises 381", 381, "Invalid property array index"
 row = combo.List(0, 0)
 CheckError "a bad column raises the control's own error", -2147219984, "Invalid Column ItemIndex"
@@ -106,3 +108,4 @@ combo.AddItem Null
 CheckError "Null is no text", 94, "Invalid use of Null"
 row = combo.List(0, 1)
 CheckError "a good call leaves no error", 0, ""
+WScript.Echo "1.." & checks

@@ -122,7 +122,8 @@ TEST_F(Win32SurfaceTest, NoticesThatTheFocusWasElsewhereWhenTheFloatingWindowEnd
 
 TEST_F(Win32SurfaceTest, SaysThatItIsDestroyed) {
     DestroyWindow(surface_.handle());
-    EXPECT_EQ(take_lines(), Lines{"destroyed"});
+    // A visible window is hidden on its way.
+    EXPECT_EQ(take_lines(), (Lines{"hidden", "destroyed"}));
     EXPECT_EQ(surface_.window(), 0);
     EXPECT_EQ(surface_.width(), 0.0F);
 }

@@ -7,6 +7,8 @@ ring_com() {
     local arch=$1 program script
     VELLORA_OCX=$(library_path "$arch")
     export VELLORA_OCX
+    # Windows stand where they were put, without a window manager's own ideas.
+    manage_windows "$arch" N
     for program in "$VELLORA_ROOT/build/$arch"/tests/*_tests.exe; do
         [ -f "$program" ] || continue
         # shellcheck disable=SC2046
@@ -17,6 +19,14 @@ ring_com() {
             script_suite "$arch" "$script"
         fi
     done
+    manage_windows "$arch" Y
+}
+
+# manage_windows ARCH Y|N - whether the window manager gets to see windows.
+manage_windows() {
+    # shellcheck disable=SC2046
+    "$VELLORA_ROOT/vellora" wine $(wide "$1") reg.exe add 'HKCU\Software\Wine\X11 Driver' \
+        /v Managed /d "$2" /f >/dev/null 2>&1 </dev/null
 }
 
 wide() { [ "$1" = x86 ] || echo --64; }
