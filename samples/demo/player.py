@@ -4,10 +4,12 @@ import os
 import shutil
 import subprocess
 import tempfile
+import time
 
 from support.bed import ARCH, PATIENCE, ROOT, click, move, wait_for, wine_command, xdotool
 
 TITLE = "Vellora demonstration"
+HAND_PAUSE = 0.4  # seconds
 # Single keys and mouse movements are in the log on the form; here they would hide what matters.
 MINOR_EVENTS = ("MouseMove", "MouseDown", "MouseUp", "DblClick", "KeyDown", "KeyPress", "KeyUp")
 
@@ -173,9 +175,12 @@ class Demo:
         click((left + (bottom - top) // 2, (top + bottom) // 2))
 
     def drag(self, start, end):
+        # The control looks where the pointer is when it learns of the press; a hand leaves it there for a moment.
         move(start)
         xdotool("mousedown", 1)
+        time.sleep(HAND_PAUSE)
         move(end)
+        time.sleep(HAND_PAUSE)
         xdotool("mouseup", 1)
 
     def wheel(self, notches):
