@@ -63,6 +63,8 @@ void ColumnSet::ensure_headers() {
     }
 }
 
+void ColumnSet::rebuild_headers() { build_headers(core_.state.miColumns); }
+
 std::u16string ColumnSet::ColumnHeader(std::int16_t ColumnIndex) const {
     check_used_column(ColumnIndex);
     return core_.state.masColumnHeader[slot_of(ColumnIndex)];

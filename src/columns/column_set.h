@@ -47,6 +47,8 @@ public:
 
     /// Builds the headers of an instance that has none yet.
     void ensure_headers();
+    /// Builds the headers anew, for captions and widths that changed beside the setters.
+    void rebuild_headers();
     /// Takes the width of every hidden column away.
     void collapse_hidden_columns();
 

@@ -180,7 +180,8 @@ void DropDown::subHideListView() {
 }
 
 void DropDown::subFocusTextBox() {
-    if (focus_taken_elsewhere_) {
+    // A control that is only being set up has no claim to the focus.
+    if (focus_taken_elsewhere_ || core_.state.mbLoadingProperties) {
         return;
     }
     try {

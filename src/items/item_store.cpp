@@ -136,6 +136,7 @@ void ItemStore::ClearAll() {
     std::int16_t first_column = 1;
     subResetColumns(core_.state, first_column);
     columns_.put_Columns(1);
+    columns_.rebuild_headers();
     empty_text();
 }
 

@@ -16,6 +16,15 @@ TEST(Opening, GoesThroughItsStepsInOrder) {
     EXPECT_TRUE(combo.is_open());
 }
 
+TEST(Opening, OfAControlThatDoesNotShowDoesNothing) {
+    DropDownCombo combo;
+    combo.surface.is_shown = false;
+    combo.drop_down().ShowList();
+    EXPECT_FALSE(combo.is_open());
+    EXPECT_EQ(combo.button(0).value(), 0);
+    EXPECT_EQ(combo.journal().take_all(), Lines{"focus text 0"});
+}
+
 TEST(Opening, OfAResizableDropDownAddsTheFrameAfterTheHook) {
     DropDownCombo combo;
     combo.state().mbAllowResize = true;

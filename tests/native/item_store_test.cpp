@@ -265,6 +265,17 @@ TEST(ClearAll, LeavesOneColumnWithoutCaptionOrWidth) {
     EXPECT_EQ(combo.journal().take_all(), (Lines{"Changed(Columns)", "Changed(Text)"}));
 }
 
+TEST(ClearAll, TakesTheOnlyColumnsCaptionFromTheListToo) {
+    HeadlessControl combo;
+    combo.site.width = 2400;
+    combo.columns().put_Columns(1);
+    combo.columns().put_ColumnHeader(1, u"only");
+    combo.columns().put_ColumnWidth(1, 500);
+    combo.items().ClearAll();
+    EXPECT_EQ(combo.list_view.header_text(1), u"");
+    EXPECT_EQ(combo.list_view.header_width(1), 2400);
+}
+
 TEST(ClearAll, KeepsHiddenAndLockedFlags) {
     HeadlessControl combo;
     combo.columns().put_Columns(3);

@@ -254,6 +254,18 @@ TEST(OpenListMessages, OfADividerRefuseHiddenAndLockedColumns) {
     }
 }
 
+TEST(OpenListMessages, OfADoubleClickedDividerReachTheListOnlyForFreeColumns) {
+    OpenList combo;
+    combo.columns().put_ColumnLocked(2, true);
+    for (const std::int32_t code : {-305, -325}) {
+        combo.list_view.notifications_seen = 0;
+        EXPECT_FALSE(combo.user.drag_divider(2, code)) << code;
+        EXPECT_EQ(combo.list_view.notifications_seen, 0) << code;
+        EXPECT_TRUE(combo.user.drag_divider(1, code)) << code;
+        EXPECT_GT(combo.list_view.notifications_seen, 0) << code;
+    }
+}
+
 TEST(OpenListMessages, OfADividerAskWhatIsUnderTheCursor) {
     OpenList combo;
     combo.desktop().cursor = {321, 123};
