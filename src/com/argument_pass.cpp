@@ -2,14 +2,15 @@
 
 #include "com/guard.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace vellora::com {
 
 namespace {
 
-bool has_typed_place(VARTYPE type) {
-    return type == VT_BSTR || scalar_size(type) != 0;
+bool wants_place(const Parameter& parameter) {
+    return parameter.by_reference && (parameter.type == VT_BSTR || scalar_size(parameter.type) != 0);
 }
 
 bool is_missing(const VARIANT& argument) {
@@ -25,7 +26,8 @@ std::uint64_t payload_bits(Variant& value) {
 } // namespace
 
 ArgumentPass::ArgumentPass(const DISPPARAMS& arguments, const Member* member) : passed_(arguments) {
-    if (!member || arguments.cArgs == 0)
+    if (!member || arguments.cArgs == 0 ||
+        std::none_of(member->parameters.begin(), member->parameters.end(), wants_place))
         return;
     arguments_.assign(arguments.rgvarg, arguments.rgvarg + arguments.cArgs);
     places_.reserve(arguments.cArgs); // references to the places must stay good
@@ -34,9 +36,8 @@ ArgumentPass::ArgumentPass(const DISPPARAMS& arguments, const Member* member) : 
         const std::size_t index = parameter_index(i);
         if (index >= member->parameters.size())
             continue;
-        const Parameter& parameter = member->parameters[index];
-        if (parameter.by_reference && has_typed_place(parameter.type))
-            give_place(arguments_[i], parameter.type);
+        if (wants_place(member->parameters[index]))
+            give_place(arguments_[i], member->parameters[index].type);
     }
 }
 

@@ -61,9 +61,10 @@ void ControlHost::view_changed() {
     if (ending_)
         return;
     const Hold alive = hold();
-    ComPtr<IDataObject> data;
-    controlling_->QueryInterface(IID_PPV_ARGS(&data));
-    views_.view_changed(data.Get());
+    // In place the window shows the change by itself.
+    if (!activation_.in_place())
+        views_.view_changed();
+    views_.data_changed(controlling_);
 }
 
 std::u16string ControlHost::display_name() const {

@@ -51,7 +51,7 @@ public:
     void request_ui_activation();
     /// The focus went to a window that is not the control's.
     void focus_left();
-    /// The inactive control's face is no longer what was drawn.
+    /// The control's face is no longer what was drawn: tells those who keep a picture of it.
     void view_changed();
 
     const Ambients& ambients() const noexcept { return ambients_; }

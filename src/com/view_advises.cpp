@@ -15,7 +15,7 @@ void ViewAdvises::set_view_sink(DWORD aspects, DWORD flags, IAdviseSink* sink) {
     aspects_ = aspects;
     flags_ = flags;
     if (sink && (flags & ADVF_PRIMEFIRST) != 0)
-        view_changed(nullptr);
+        view_changed();
 }
 
 void ViewAdvises::view_sink(DWORD* aspects, DWORD* flags, IAdviseSink** sink) const {
@@ -39,14 +39,20 @@ IDataAdviseHolder* ViewAdvises::data_advises() {
     return data_advises_.Get();
 }
 
-void ViewAdvises::view_changed(IDataObject* data) {
-    if (const ComPtr<IAdviseSink> sink = sink_; sink && (aspects_ & DVASPECT_CONTENT) != 0) {
-        if ((flags_ & ADVF_ONLYONCE) != 0)
-            sink_.Reset();
-        sink->OnViewChange(DVASPECT_CONTENT, whole);
-    }
-    if (const ComPtr<IDataAdviseHolder> advises = data_advises_; advises && data)
-        advises->SendOnDataChange(data, 0, 0);
+void ViewAdvises::view_changed() {
+    const ComPtr<IAdviseSink> sink = sink_;
+    if (!sink || (aspects_ & DVASPECT_CONTENT) == 0)
+        return;
+    if ((flags_ & ADVF_ONLYONCE) != 0)
+        sink_.Reset();
+    sink->OnViewChange(DVASPECT_CONTENT, whole);
+}
+
+void ViewAdvises::data_changed(IUnknown* control) {
+    const ComPtr<IDataAdviseHolder> advises = data_advises_;
+    ComPtr<IDataObject> data;
+    if (advises && SUCCEEDED(control->QueryInterface(IID_PPV_ARGS(&data))))
+        advises->SendOnDataChange(data.Get(), 0, 0);
 }
 
 void ViewAdvises::saved() {

@@ -15,7 +15,8 @@ public:
     IOleAdviseHolder* ole_advises();
     IDataAdviseHolder* data_advises();
 
-    void view_changed(IDataObject* data);
+    void view_changed();
+    void data_changed(IUnknown* control);
     void saved();
     void closed();
     void clear() noexcept;
