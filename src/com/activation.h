@@ -25,7 +25,6 @@ public:
 
     bool in_place() const noexcept { return state_ != State::loaded; }
     bool ui_active() const noexcept { return state_ == State::ui_active; }
-    ComPtr<IOleInPlaceSite> site() const noexcept { return site_; }
 
     /// Shows the control in place. Throws ComFailure when the container does not let it.
     void activate(const Proposal& proposal);
