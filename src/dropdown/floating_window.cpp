@@ -45,17 +45,18 @@ void FloatingWindow::subCreateDropDownWindow(const Bounds& bounds) {
     if (placement_.ListScrollBars() != scroll_bars_before) {
         make_room_for_scroll_bar(rect);
     }
+    if (state.mbAllowResize) {
+        add_resize_frame(rect);
+    }
     const WindowHandle floating = state.mlStatic_hWnd;
     const WindowHandle list = core_.parts.ListView1.window();
+    core_.user32.show_popup(floating);
     core_.user32.set_focus(list);
     // Whoever lost the focus to the list may have closed it already.
     if (state.mlStatic_hWnd != floating) {
         return;
     }
     MsgHandler_.SetHook(list);
-    if (state.mbAllowResize) {
-        add_resize_frame(rect);
-    }
     keep_caption_active();
 }
 

@@ -44,8 +44,10 @@ class User32 {
 public:
     virtual ~User32() = default;
 
-    /// A visible tool window without border or caption that belongs to the desktop; 0 when it cannot be made.
+    /// A tool window without border or caption that belongs to the desktop, not shown yet; 0 when it cannot be made.
     virtual WindowHandle create_popup(const PixelRect& rect) = 0;
+    /// Shows a popup and activates it, with everything in it already painted.
+    virtual void show_popup(WindowHandle window) = 0;
     virtual void destroy_window(WindowHandle window) = 0;
     virtual void set_parent(WindowHandle child, WindowHandle parent) = 0;
     virtual WindowHandle parent(WindowHandle window) const = 0;

@@ -102,7 +102,7 @@ TEST_F(Win32SurfaceTest, ItsFloatingWindowIsPartOfIt) {
     box_.focus();
     take_lines();
     const WindowHandle popup = user32_.create_popup(popup_place);
-    user32_.set_focus(popup);
+    user32_.show_popup(popup);
     box_.focus();
     user32_.destroy_window(popup);
     EXPECT_EQ(take_lines(), Lines{});
@@ -113,7 +113,7 @@ TEST_F(Win32SurfaceTest, ItsFloatingWindowIsPartOfIt) {
 TEST_F(Win32SurfaceTest, NoticesThatTheFocusWasElsewhereWhenTheFloatingWindowEnds) {
     box_.focus();
     const WindowHandle popup = user32_.create_popup(popup_place);
-    user32_.set_focus(popup);
+    user32_.show_popup(popup);
     take_lines();
     focus_elsewhere();
     user32_.destroy_window(popup);
@@ -130,6 +130,8 @@ TEST_F(Win32SurfaceTest, SaysThatItIsDestroyed) {
 
 TEST_F(Win32SurfaceTest, TheFloatingWindowIsAnUnownedToolWindowOfTheStaticClass) {
     const HWND popup = as_window(user32_.create_popup(popup_place));
+    EXPECT_FALSE(IsWindowVisible(popup));
+    user32_.show_popup(as_handle(popup));
     wchar_t name[16];
     GetClassNameW(popup, name, 16);
     EXPECT_STREQ(name, L"Static");

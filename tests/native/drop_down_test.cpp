@@ -12,7 +12,7 @@ TEST(Opening, GoesThroughItsStepsInOrder) {
     combo.drop_down().ShowList();
     EXPECT_EQ(combo.journal().take_all(),
               (Lines{"send list 0x101F 0 0", "create popup 100,221 199x76", "parent of list popup",
-                     "focus list", "hook list", "send form 0x0086 1 1", "DropDown(open)"}));
+                     "show popup", "focus list", "hook list", "send form 0x0086 1 1", "DropDown(open)"}));
     EXPECT_TRUE(combo.is_open());
 }
 
@@ -25,14 +25,14 @@ TEST(Opening, OfAControlThatDoesNotShowDoesNothing) {
     EXPECT_EQ(combo.journal().take_all(), Lines{});
 }
 
-TEST(Opening, OfAResizableDropDownAddsTheFrameAfterTheHook) {
+TEST(Opening, OfAResizableDropDownIsWholeBeforeItShows) {
     DropDownCombo combo;
     combo.state().mbAllowResize = true;
     combo.drop_down().ShowList();
     EXPECT_EQ(combo.journal().take_all(),
               (Lines{"send list 0x101F 0 0", "create popup 100,221 199x76", "parent of list popup",
-                     "focus list", "hook list", "parent of frame popup", "move popup 100,221 199x92",
-                     "send form 0x0086 1 1", "DropDown(open)"}));
+                     "parent of frame popup", "move popup 100,221 199x92", "show popup", "focus list",
+                     "hook list", "send form 0x0086 1 1", "DropDown(open)"}));
 }
 
 TEST(Closing, GoesThroughItsStepsInOrder) {

@@ -231,6 +231,19 @@ class FormTest(ListTest):
         self.host.call("Vellora1", "HideList")
         self.assertTrue(self.host.caption_active())
 
+    def test_using_the_list_leaves_the_caption_active(self):
+        self.open()
+        before = self.picture("before")
+        left, top, right, bottom = self.host.rect("list")
+        for down_the_scroll_bar in (bottom - 10, bottom - 10, (top + bottom) // 2):
+            self.host.click((right - 10, down_the_scroll_bar))
+        self.assertGreater(self.host.list()["top"], 0)
+        self.assertTrue(self.host.caption_active())
+        self.assertEqual(1, self.host.floating())
+        form = self.host.rect("form")
+        caption = [form[0], form[1], form[2], form[1] + 20]
+        self.assertTrue(self.picture("after").same(before, caption), "the caption changed its look")
+
     def test_another_window_activated_by_the_window_manager_closes(self):
         other = self.start(title="Another program")
         self.host.activate()

@@ -48,6 +48,8 @@ void CheckButtonPeer::set_visible(bool visible) {
     if (visible != this->visible()) {
         changed_at_ = GetTickCount();
         WindowWidget::set_visible(visible);
+        // Two buttons take turns in one place; the gap between them would show until all other work is done.
+        UpdateWindow(handle());
     }
 }
 

@@ -93,9 +93,12 @@ LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lpar
     });
 }
 
+void add_style(HWND window, int which, LONG_PTR style) {
+    SetWindowLongPtrW(window, which, GetWindowLongPtrW(window, which) | style);
+}
+
 void add_container_manners(HWND window, std::unique_ptr<Owner> owner) {
     mark_floating_window(window, owner->home);
-    SetWindowLongPtrW(window, GWL_STYLE, GetWindowLongPtrW(window, GWL_STYLE) | WS_CLIPCHILDREN);
     if (SetWindowSubclass(window, procedure, subclass_id, reinterpret_cast<DWORD_PTR>(owner.get()))) {
         static_cast<void>(owner.release());
     }
@@ -105,13 +108,22 @@ void add_container_manners(HWND window, std::unique_ptr<Owner> owner) {
 
 HWND create_floating_window(const RECT& place, HWND home, FloatingWindowListener* listener) {
     auto owner = std::make_unique<Owner>(Owner{home, listener});
-    const HWND window = CreateWindowExW(WS_EX_TOOLWINDOW, L"Static", L"", WS_POPUP | WS_VISIBLE, place.left,
+    const HWND window = CreateWindowExW(WS_EX_TOOLWINDOW, L"Static", L"", WS_POPUP, place.left,
                                         place.top, place.right - place.left, place.bottom - place.top,
                                         GetDesktopWindow(), nullptr, module_instance(), nullptr);
     if (window != nullptr) {
         add_container_manners(window, std::move(owner));
     }
     return window;
+}
+
+// The first erasing covers the children too, so that none starts black. Once shown, the window is not activated
+// again: a window manager would pass the form's active caption on to it with the first click into the list.
+void show_floating_window(HWND window) {
+    ShowWindow(window, SW_SHOW);
+    add_style(window, GWL_STYLE, WS_CLIPCHILDREN);
+    add_style(window, GWL_EXSTYLE, WS_EX_NOACTIVATE);
+    RedrawWindow(window, nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
 }
 
 } // namespace vellora::win32

@@ -18,8 +18,10 @@ protected:
     ~FloatingWindowListener() = default;
 };
 
-/// Creates the window, visible, for the control whose surface is `home`. Null when it cannot be made.
+/// Creates the window, not shown yet, for the control whose surface is `home`. Null when it cannot be made.
 /// `listener` may be null and is asked as long as the window stands.
 HWND create_floating_window(const RECT& place, HWND home, FloatingWindowListener* listener);
+/// Shows and activates it, with all that is in it already painted.
+void show_floating_window(HWND window);
 
 } // namespace vellora::win32

@@ -26,14 +26,13 @@ void FocusTracker::arrived_from(HWND previous) {
 
 // Who hears of losing the focus may have brought it back already.
 void FocusTracker::left_to(HWND next) {
-    if (inside_ && !paused_ && !owns(next) && !owns(GetFocus())) {
+    if (inside_ && !owns(next) && !owns(GetFocus())) {
         inside_ = false;
         listener_.focus_left();
     }
 }
 
 void FocusTracker::check() {
-    paused_ = false;
     left_to(GetFocus());
 }
 

@@ -27,11 +27,8 @@ public:
     /// or goes to, null for one of another thread.
     void arrived_from(HWND previous);
     void left_to(HWND next);
-    /// Where the focus went while a floating window came or went, which is when nobody could tell.
+    /// Where the focus went while a floating window went, which is when nobody could tell.
     void check();
-    /// A floating window takes the focus before it can be known as part of the control: until `check`,
-    /// nothing is reported.
-    void pause() { paused_ = true; }
 
 private:
     bool owns(HWND window) const;
@@ -39,7 +36,6 @@ private:
     FocusListener& listener_;
     HWND home_ = nullptr;
     bool inside_ = false;
-    bool paused_ = false;
 };
 
 /// Marks a floating window as part of the control whose surface is `home`.

@@ -16,11 +16,12 @@ WindowHandle as_handle(HWND window) {
 } // namespace
 
 WindowHandle User32Peer::create_popup(const PixelRect& rect) {
-    focus_.pause();
-    const HWND window =
-        create_floating_window({rect.left, rect.top, rect.right, rect.bottom}, focus_.home(), listener_);
-    focus_.check();
-    return as_handle(window);
+    return as_handle(
+        create_floating_window({rect.left, rect.top, rect.right, rect.bottom}, focus_.home(), listener_));
+}
+
+void User32Peer::show_popup(WindowHandle window) {
+    show_floating_window(as_window(window));
 }
 
 void User32Peer::destroy_window(WindowHandle window) {

@@ -16,6 +16,7 @@ public:
     User32Peer(FocusTracker& focus, FloatingWindowListener* listener) : focus_(focus), listener_(listener) {}
 
     WindowHandle create_popup(const PixelRect& rect) override;
+    void show_popup(WindowHandle window) override;
     void destroy_window(WindowHandle window) override;
     void set_parent(WindowHandle child, WindowHandle parent) override;
     WindowHandle parent(WindowHandle window) const override;

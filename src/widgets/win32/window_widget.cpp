@@ -27,8 +27,22 @@ bool is_window_shown(HWND window) {
     return (GetWindowLongPtrW(window, GWL_STYLE) & WS_VISIBLE) != 0;
 }
 
+// What is hidden leaves its picture until whatever lies behind it is painted: another window that takes its place
+// at once, as the drop buttons do in turn, then shows no gap.
+void hide_window(HWND window) {
+    const RECT place = window_place(window);
+    SendMessageW(window, WM_SHOWWINDOW, FALSE, 0); // as ShowWindow does
+    SetWindowPos(window, nullptr, 0, 0, 0, 0,
+                 SWP_HIDEWINDOW | SWP_NOREDRAW | SWP_NOACTIVATE | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER);
+    RedrawWindow(GetAncestor(window, GA_PARENT), &place, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
 void show_window(HWND window, bool show) {
-    ShowWindow(window, show ? SW_SHOWNA : SW_HIDE);
+    if (show) {
+        ShowWindow(window, SW_SHOWNA);
+    } else if (is_window_shown(window)) {
+        hide_window(window);
+    }
 }
 
 void redraw(HWND window) {

@@ -38,6 +38,10 @@ WindowHandle HeadlessUser32::create_popup(const PixelRect& rect) {
     return desktop_.create(window);
 }
 
+void HeadlessUser32::show_popup(WindowHandle window) {
+    log("show " + desktop_.name(window));
+}
+
 void HeadlessUser32::destroy_window(WindowHandle window) {
     log("destroy " + desktop_.name(window));
     desktop_.destroy(window);

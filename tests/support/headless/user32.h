@@ -14,6 +14,7 @@ public:
     explicit HeadlessUser32(Desktop& desktop) : desktop_(desktop) {}
 
     WindowHandle create_popup(const PixelRect& rect) override;
+    void show_popup(WindowHandle window) override;
     void destroy_window(WindowHandle window) override;
     void set_parent(WindowHandle child, WindowHandle parent) override;
     WindowHandle parent(WindowHandle window) const override;
