@@ -1,29 +1,6 @@
 ' Rows as a script without any form uses them.
-Option Explicit
-
-Dim combo, checks
-checks = 0
+Dim combo
 Set combo = CreateObject("VelloraCTL.Vellora")
-
-Sub Check(name, expected, actual)
-    checks = checks + 1
-    If expected = actual And VarType(expected) = VarType(actual) Then
-        WScript.Echo "ok " & name
-    Else
-        WScript.Echo "not ok " & name & ": expected " & expected & ", got " & actual
-    End If
-End Sub
-
-Sub CheckError(name, number, description)
-    checks = checks + 1
-    If Err.Number = number And Err.Description = description Then
-        WScript.Echo "ok " & name
-    Else
-        WScript.Echo "not ok " & name & ": expected " & number & " " & description & _
-            ", got " & Err.Number & " " & Err.Description
-    End If
-    Err.Clear
-End Sub
 
 Check "a new control has no rows", CLng(0), combo.ListCount
 Check "no row was added yet", CLng(-1), combo.NewIndex

@@ -33,13 +33,16 @@ wide() { [ "$1" = x86 ] || echo --64; }
 
 # script_suite ARCH SCRIPT - counts the lines "ok NAME" and "not ok NAME: why".
 # An error in a script ends it silently and with code 0, so what runs is a copy
-# that says when its end was reached.
+# that begins with the checks and says when its end was reached.
 script_suite() {
     local arch=$1 name=${2##*/} started=$SECONDS code=0 copy log passed failed
     copy=$SEAT/results/$arch/$name
     log=$copy.log
     mkdir -p -- "${log%/*}"
-    { tr -d '\r' <"$2"; printf '\nWScript.Echo "%s"\n' "$SCRIPT_END"; } | sed 's/$/\r/' >"$copy"
+    {
+        cat -- "$VELLORA_ROOT/tests/com/support/checks.vbs" "$2" | tr -d '\r'
+        printf '\nWScript.Echo "%s"\n' "$SCRIPT_END"
+    } | sed 's/$/\r/' >"$copy"
     # shellcheck disable=SC2046
     timeout -k 5 "$TEST_SECONDS" "$VELLORA_ROOT/vellora" wine $(wide "$arch") cscript.exe //nologo \
         "$(windows_path "$copy")" >"$log" 2>&1 </dev/null || code=$?
