@@ -52,9 +52,13 @@ release_seat() {
     remove_tree "$1"
 }
 
-# Seats whose run was killed; a lock that can be taken belongs to nobody.
+# Seats whose run was killed, for a lock that can be taken belongs to nobody,
+# and those of checkouts that are gone.
 remove_left_seats() {
     local seat lock
+    for seat in "$CACHE"/seat/own-*; do
+        if [ -e "$seat/.checkout" ] && [ ! -d "$(cat -- "$seat/.checkout")" ]; then release_seat "$seat"; fi
+    done
     for seat in "$CACHE"/seat/run-*; do
         [ -d "$seat" ] || continue
         lock=$CACHE/seat/.lock-${seat##*-}

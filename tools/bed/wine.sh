@@ -2,19 +2,31 @@
 # the system's own Wine.
 # shellcheck shell=bash
 
-# What a program started by hand runs in; a test run has a seat of its own.
-SEAT=${VELLORA_SEAT:-$CACHE/seat/main}
+# What a program started by hand runs in; a test run has a seat of its own. A
+# server that runs already sees the folders its first program was shown, so
+# checkouts that share a cache do not share a seat.
+SEAT=${VELLORA_SEAT:-$CACHE/seat/own-$(fingerprint "$VELLORA_ROOT" "$USER_TMPDIR" "${HOME:-}")}
 
 cmd_wine() {
     local arch=x86
     if [ "${1:-}" = --64 ]; then arch=x64; shift; fi
     [ $# -gt 0 ] || die 'wine needs a program: ./vellora wine [--64] PROGRAM [ARGUMENTS]'
     # A seat that is in use is complete: nothing to look after.
-    [ -n "${VELLORA_SEAT:-}" ] || need_bed "$arch"
+    if [ -z "${VELLORA_SEAT:-}" ]; then
+        need_bed "$arch"
+        mark_own_seat
+    fi
     # Wine would say nothing at all about a program that is not there.
     case $1 in ?:*) ;; */*) [ -e "$1" ] || { say "vellora: there is no program $1"; exit 127; } ;; esac
     need_server "$arch"
     bed_exec "$arch" "$@"
+}
+
+# The seat of a checkout that is gone can go too.
+mark_own_seat() {
+    [ ! -e "$SEAT/.checkout" ] || return 0
+    mkdir -p -- "$SEAT"
+    printf '%s' "$VELLORA_ROOT" >"$SEAT/.checkout"
 }
 
 # need_bed ARCH... - everything that running programs takes.
