@@ -17,7 +17,7 @@ target_compile_options(com_tests PRIVATE -O0 -g1)
 target_compile_definitions(com_tests PRIVATE VELLORA_TESTS_DIR="${tests_dir}")
 target_link_libraries(com_tests PRIVATE
   test_container vellora_win32 vellora_com vellora_behaviour vellora_idl gtest gtest_main
-  ${host_libraries} uxtheme imm32 version)
+  ${host_libraries} uxtheme imm32 oleacc version)
 # The tests load the library by its path, so nothing but this makes it.
 add_dependencies(com_tests VelloraCTL)
 

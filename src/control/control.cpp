@@ -20,7 +20,8 @@ Control::Control(const ControlEnvironment& environment)
       drop_down_(core_, placement_, columns_, column_sizes_, floating_window_, environment.form_watch),
       text_field_(core_, object_, selection_, drop_down_),
       persistence_(core_, {object_, appearance_, text_properties_, columns_, placement_, check_boxes_,
-                           selection_}) {
+                           selection_}),
+      accessibility_(core_, object_, drop_down_) {
     object_.Initialize();
     MsgHandler_.AddMessage(message::kill_focus);
     MsgHandler_.AddMessage(message::notify);

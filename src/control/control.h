@@ -5,6 +5,7 @@
 #include "columns/column_auto_size.h"
 #include "columns/column_order.h"
 #include "columns/column_set.h"
+#include "control/accessibility.h"
 #include "control/appearance.h"
 #include "control/control_object.h"
 #include "control/core.h"
@@ -68,6 +69,7 @@ public:
     TextField& text_field() { return text_field_; }
     TextProperties& text_properties() { return text_properties_; }
     Persistence& persistence() { return persistence_; }
+    Accessibility& accessibility() { return accessibility_; }
 
 private:
     class Wiring;
@@ -95,6 +97,7 @@ private:
     DropDown drop_down_;
     TextField text_field_;
     Persistence persistence_;
+    Accessibility accessibility_;
 };
 
 } // namespace vellora

@@ -42,6 +42,7 @@ void Control::Wiring::text_key_up(std::int16_t& key_code, std::int16_t& shift) {
 void Control::Wiring::text_changed() {
     const auto held = hold();
     control_.text_field_.changed();
+    control_.core_.surface.announce(Announcement::value_changed);
 }
 
 void Control::Wiring::text_mouse_down(std::int16_t& button, std::int16_t& shift, float& x, float& y) {

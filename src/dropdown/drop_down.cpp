@@ -130,6 +130,7 @@ void DropDown::subShowListView() {
         return;
     }
     form_watch_.watch(core_.site.form_window());
+    core_.surface.announce(Announcement::list_opened_or_closed);
     opening_reported_ = true;
     core_.events.drop_down(DropDownState::open);
     // The handler may have closed this list again, or even opened another one.
@@ -172,6 +173,7 @@ void DropDown::subHideListView() {
     }
     form_watch_.stop();
     window_.tear_down();
+    core_.surface.announce(Announcement::list_opened_or_closed);
     const ListClosing closing;
     // A list that the focus change of its own opening closed has never been reported.
     if (std::exchange(opening_reported_, false)) {

@@ -24,6 +24,9 @@ protected:
     ~SurfaceListener() = default;
 };
 
+/// What assistive software is told as it happens.
+enum class Announcement { value_changed, list_opened_or_closed };
+
 /// Lengths are twips.
 class Surface {
 public:
@@ -45,6 +48,7 @@ public:
     virtual void set_back_color(OleColor color) = 0;
     virtual void set_enabled(bool enabled) = 0;
     virtual void refresh() = 0;
+    virtual void announce(Announcement what) = 0;
     /// The screen's twips per pixel: 15 at 96 dpi, 12 at 120, 10 at 144.
     virtual float twips_per_pixel_x() const = 0;
     virtual float twips_per_pixel_y() const = 0;

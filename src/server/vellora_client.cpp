@@ -1,6 +1,7 @@
 #include "server/vellora_client.h"
 
 #include "com/control_host.h"
+#include "server/accessible_combo.h"
 #include "server/closed_face.h"
 #include "server/message_module.h"
 #include "server/property_categories.h"
@@ -115,6 +116,11 @@ void VelloraClient::surface_wants_height(int pixels) { host_.request_size({host_
 void VelloraClient::surface_focus_entered() { host_.request_ui_activation(); }
 
 void VelloraClient::surface_focus_left() { host_.focus_left(); }
+
+LRESULT VelloraClient::surface_object(HWND window, WPARAM wparam, LPARAM lparam) {
+    const AccessibleControl control{&control_.accessibility(), win32::Lifeline::Watch(lifeline_), peers_.surface.handle()};
+    return accessible_object(window, wparam, lparam, control);
+}
 
 void VelloraClient::close_requested() {
     const com::Hold held = host_.hold();

@@ -40,9 +40,11 @@ private:
     void surface_wants_height(int pixels) override;
     void surface_focus_entered() override;
     void surface_focus_left() override;
+    LRESULT surface_object(HWND window, WPARAM wparam, LPARAM lparam) override;
     void close_requested() override;
     void floating_window_left() override;
 
+    win32::Lifeline lifeline_;
     com::ControlHost& host_;
     win32::LocaleTextCompare compare_;
     ConstituentPeers peers_;

@@ -99,6 +99,15 @@ void SurfaceWindow::refresh() {
     }
 }
 
+void SurfaceWindow::announce(Announcement what) {
+    const DWORD event = what == Announcement::value_changed ? EVENT_OBJECT_VALUECHANGE : EVENT_OBJECT_STATECHANGE;
+    NotifyWinEvent(event, handle(), OBJID_CLIENT, CHILDID_SELF);
+}
+
+LRESULT SurfaceWindow::accessible_object(HWND window, WPARAM wparam, LPARAM lparam) {
+    return host_ != nullptr ? host_->surface_object(window, wparam, lparam) : 0;
+}
+
 float SurfaceWindow::twips_per_pixel_x() const {
     return static_cast<float>(win32::twips_per_pixel_x());
 }
@@ -119,6 +128,8 @@ LRESULT SurfaceWindow::on_message(HWND window, UINT message, WPARAM wparam, LPAR
         return paint_border(window, wparam, lparam);
     case WM_ERASEBKGND:
         return erase(window, reinterpret_cast<HDC>(wparam));
+    case WM_GETOBJECT:
+        return describe(window, wparam, lparam);
     case WM_SETFOCUS:
         return take_focus(window, reinterpret_cast<HWND>(wparam));
     case WM_KILLFOCUS:
@@ -137,6 +148,11 @@ LRESULT SurfaceWindow::on_message(HWND window, UINT message, WPARAM wparam, LPAR
 LRESULT SurfaceWindow::answer_child(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
     const auto answer = message == WM_NOTIFY ? route_notification(lparam) : reflect(message, wparam, lparam);
     return answer ? *answer : DefWindowProcW(window, message, wparam, lparam);
+}
+
+LRESULT SurfaceWindow::describe(HWND window, WPARAM wparam, LPARAM lparam) {
+    const LRESULT own = accessible_object(window, wparam, lparam);
+    return own != 0 ? own : DefWindowProcW(window, WM_GETOBJECT, wparam, lparam);
 }
 
 LRESULT SurfaceWindow::erase(HWND window, HDC dc) {

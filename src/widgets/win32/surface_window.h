@@ -19,6 +19,9 @@ public:
     virtual void surface_focus_entered() = 0;
     /// The focus went out of it again.
     virtual void surface_focus_left() = 0;
+    /// What assistive software gets for the surface or its text box: the answer to WM_GETOBJECT, 0 where the platform
+    /// has one that serves.
+    virtual LRESULT surface_object(HWND window, WPARAM wparam, LPARAM lparam) = 0;
 
 protected:
     ~SurfaceHost() = default;
@@ -35,6 +38,8 @@ public:
     void set_host(SurfaceHost* host) { host_ = host; }
     FocusTracker& focus_tracker() { return focus_tracker_; }
     OleColor back_color() const { return back_color_; }
+    /// What its host answers to WM_GETOBJECT for the surface or one of its text boxes; 0 for no answer of its own.
+    LRESULT accessible_object(HWND window, WPARAM wparam, LPARAM lparam);
 
     void listen(SurfaceListener* listener) override { listener_ = listener; }
     WindowHandle window() const override { return reinterpret_cast<WindowHandle>(handle()); }
@@ -48,6 +53,7 @@ public:
     void set_back_color(OleColor color) override;
     void set_enabled(bool enabled) override { EnableWindow(handle(), enabled); }
     void refresh() override;
+    void announce(Announcement what) override;
     float twips_per_pixel_x() const override;
     float twips_per_pixel_y() const override;
 
@@ -55,6 +61,7 @@ private:
     LRESULT on_message(HWND window, UINT message, WPARAM wparam, LPARAM lparam) override;
     LRESULT answer_child(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
     LRESULT paint_border(HWND window, WPARAM wparam, LPARAM lparam);
+    LRESULT describe(HWND window, WPARAM wparam, LPARAM lparam);
     LRESULT erase(HWND window, HDC dc);
     LRESULT take_focus(HWND window, HWND previous);
     LRESULT lose_focus(HWND next);

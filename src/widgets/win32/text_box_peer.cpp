@@ -24,7 +24,7 @@ std::u16string accepted_part(std::u16string_view text, std::size_t room) {
 } // namespace
 
 TextBoxPeer::TextBoxPeer(SurfaceWindow& surface, TextAlignment alignment)
-    : alignment_(alignment), edit_(surface.handle(), alignment, *this),
+    : surface_(surface), alignment_(alignment), edit_(surface.handle(), alignment, *this),
       input_(edit_, surface.focus_tracker()) {
     font_.set(nullptr);
 }
@@ -157,6 +157,8 @@ LRESULT TextBoxPeer::edit_message(const EditMessage& message) {
             note_change();
         }
         return 0;
+    case WM_GETOBJECT:
+        return describe(message);
     case EM_SETMARGINS:
         return keep_margins(message);
     case WM_SIZE:
@@ -166,6 +168,12 @@ LRESULT TextBoxPeer::edit_message(const EditMessage& message) {
         return answer ? *answer : edit_.pass_on(message);
     }
     }
+}
+
+// The field of a combo box goes by the name of the combo box.
+LRESULT TextBoxPeer::describe(const EditMessage& message) {
+    const LRESULT own = surface_.accessible_object(edit_.handle(), message.wparam, message.lparam);
+    return own != 0 ? own : edit_.pass_on(message);
 }
 
 LRESULT TextBoxPeer::set_colors(HDC dc) {

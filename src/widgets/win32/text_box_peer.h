@@ -56,6 +56,7 @@ private:
     HWND widget_window() const override { return edit_.handle(); }
     LRESULT edit_message(const EditMessage& message) override;
     LRESULT set_colors(HDC dc);
+    LRESULT describe(const EditMessage& message);
     LRESULT keep_margins(const EditMessage& message);
     LRESULT resize(const EditMessage& message);
     void note_change();
@@ -65,6 +66,7 @@ private:
     std::size_t room_for_selection() const;
 
     Lifeline lifeline_;
+    SurfaceWindow& surface_;
     TextAlignment alignment_;
     TextBoxListener* listener_ = nullptr;
     EditWindow edit_;

@@ -97,6 +97,7 @@ public:
     }
     void surface_focus_entered() override { lines_.push_back("host: focus entered"); }
     void surface_focus_left() override { lines_.push_back("host: focus left"); }
+    LRESULT surface_object(HWND, WPARAM, LPARAM) override { return 0; }
 
 private:
     Lines& lines_;

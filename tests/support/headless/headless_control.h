@@ -61,6 +61,7 @@ public:
     DropDown& drop_down() { return control_->drop_down(); }
     ResizeGrip& resize_grip() { return control_->resize_grip(); }
     Persistence& persistence() { return control_->persistence(); }
+    Accessibility& accessibility() { return control_->accessibility(); }
     TextField& text_field() { return control_->text_field(); }
     TextProperties& text_properties() { return control_->text_properties(); }
 

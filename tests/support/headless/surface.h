@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace vellora::test {
 
@@ -29,6 +30,7 @@ public:
     void set_back_color(OleColor color) override { back_color = color; }
     void set_enabled(bool value) override { enabled = value; }
     void refresh() override { ++refresh_count; }
+    void announce(Announcement what) override { announcements.push_back(what); }
     float twips_per_pixel_x() const override { return screen_.twips_per_pixel_x; }
     float twips_per_pixel_y() const override { return screen_.twips_per_pixel_y; }
 
@@ -51,6 +53,7 @@ public:
     OleColor back_color = 0;
     bool enabled = true;
     int refresh_count = 0;
+    std::vector<Announcement> announcements;
     /// The last text that was measured.
     mutable std::u16string measured;
 
