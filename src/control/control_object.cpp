@@ -3,17 +3,12 @@
 #include "control/appearance.h"
 #include "runtime/checked.h"
 #include "runtime/host_error.h"
+#include "runtime/system_colors.h"
 #include "textfield/text_properties.h"
 
 namespace vellora {
 
 namespace {
-
-constexpr OleColor highlight_color = 0x80000014;
-constexpr OleColor shadow_color = 0x80000010;
-constexpr OleColor button_face_color = 0x8000000F;
-constexpr OleColor button_text_color = 0x80000012;
-constexpr OleColor window_color = 0x80000005;
 
 // Marlett, the platform's symbol font, draws the two halves of a resize grip for these letters.
 constexpr std::u16string_view symbol_font = u"Marlett";
@@ -37,12 +32,12 @@ void ControlObject::Initialize() {
     core_.state.miTwipsPerPixelY = to_integer(static_cast<double>(core_.surface.twips_per_pixel_y()));
     core_.parts.chkDropDown[0]->set_visible(true);
     core_.parts.chkDropDown[1]->set_visible(false);
-    prepare_grip(0, highlight_color, u"o");
-    prepare_grip(1, shadow_color, u"p");
+    prepare_grip(0, system_color::button_highlight, u"o");
+    prepare_grip(1, system_color::button_shadow, u"p");
     Bounds frame = core_.parts.Frame1.bounds();
     frame.height = core_.parts.lblShangle[0]->height();
     core_.parts.Frame1.move(frame);
-    core_.parts.Frame1.set_back_color(button_face_color);
+    core_.parts.Frame1.set_back_color(system_color::button_face);
     core_.parts.Frame1.set_visible(false);
 }
 
@@ -62,10 +57,10 @@ void ControlObject::InitProperties() {
     attempt([&] { text_properties_.put_Alignment(0); });
     attempt([&] { text_properties_.put_LeftMargin(margin_of_font); });
     attempt([&] { appearance_.putref_Font(core_.site.ambient_font()); });
-    core_.state.mlBackColor = window_color;
+    core_.state.mlBackColor = system_color::window;
     core_.state.mbCheckBoxes = false;
-    core_.state.mlButtonForeColor = button_text_color;
-    core_.state.mlButtonBackColor = button_face_color;
+    core_.state.mlButtonForeColor = system_color::button_text;
+    core_.state.mlButtonBackColor = system_color::button_face;
     core_.state.mbAllowResize = false;
     attempt([&] { show_own_name(); });
     attempt([&] { core_.parts.chkDropDown[1]->set_value(1); });

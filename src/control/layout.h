@@ -14,12 +14,14 @@ public:
     /// passes after a failed one place nothing.
     void Resize();
 
+    /// The height that goes with the font, in twips. Error 6 as above.
+    float automatic_height() const;
+
     bool AutoHeight() const;
     void put_AutoHeight(bool value);
 
 private:
     void lay_out();
-    float automatic_height() const;
     void place_text_boxes(float width, float height);
     void place_buttons(float width, float height);
     void mark_frame_style();

@@ -1,6 +1,7 @@
 #include "control/saved_properties.h"
 
 #include "runtime/decimal.h"
+#include "runtime/system_colors.h"
 
 #include <algorithm>
 #include <array>
@@ -12,12 +13,9 @@ namespace {
 
 // Colours travel as Longs.
 constexpr std::int32_t as_long(OleColor color) { return static_cast<std::int32_t>(color); }
-constexpr std::int32_t window_color = as_long(0x80000005);
-constexpr std::int32_t window_text_color = as_long(0x80000008);
-constexpr std::int32_t button_text_color = as_long(0x80000012);
-constexpr std::int32_t button_face_color = as_long(0x8000000F);
 
 template <auto Value> SavedValue fixed(const ControlCore&) { return Value; }
+template <OleColor Color> SavedValue fixed_color(const ControlCore&) { return as_long(Color); }
 SavedValue single_0(const ControlCore&) { return 0.0F; }
 SavedValue single_8(const ControlCore&) { return 8.0F; }
 SavedValue no_text(const ControlCore&) { return std::u16string(); }
@@ -49,7 +47,7 @@ const std::array before_columns{
 // The drop-down's colours are saved from the text field's, and BackColor a second time from there; the second value
 // is the one that stays. Forms saved long ago depend on both.
 const std::array after_columns{
-    SavedProperty{u"BackColor", fixed<window_color>, color_field<&S::mlBackColor>},
+    SavedProperty{u"BackColor", fixed_color<system_color::window>, color_field<&S::mlBackColor>},
     SavedProperty{u"DropDownHeight", single_8, field<&S::msngDropDownHeight>},
     SavedProperty{u"ListIndex", fixed<std::int32_t{-1}>, field<&S::mlListIndex>},
     SavedProperty{u"HideColumnHeaders", no, field<&S::mbHideColumnHeaders>},
@@ -63,21 +61,21 @@ const std::array after_columns{
     SavedProperty{u"Locked", no, field<&S::mbLocked>},
     SavedProperty{u"AutoHeight", yes, field<&S::mbAutoHeight>},
     SavedProperty{u"Font", ambient_font, field<&S::moFont>},
-    SavedProperty{u"DropDownBackColor", fixed<window_color>, text_back_color},
-    SavedProperty{u"DropDownForeColor", fixed<window_text_color>, text_fore_color},
+    SavedProperty{u"DropDownBackColor", fixed_color<system_color::window>, text_back_color},
+    SavedProperty{u"DropDownForeColor", fixed_color<system_color::window_text>, text_fore_color},
     SavedProperty{u"DropDownAlignment", long_0, field<&S::mlDropDownAlignment>},
     SavedProperty{u"DropDownWidthOffset", single_0, field<&S::msngDropDownWidthOffset>},
     SavedProperty{u"AutoSize", long_0, field<&S::mlAutoSize>},
     SavedProperty{u"GridLines", no, field<&S::mbGridLines>},
     SavedProperty{u"ButtonStyle", long_0, field<&S::mlButtonStyle>},
-    SavedProperty{u"ButtonForeColor", fixed<button_text_color>, color_field<&S::mlButtonForeColor>},
-    SavedProperty{u"ButtonBackColor", fixed<button_face_color>, color_field<&S::mlButtonBackColor>},
+    SavedProperty{u"ButtonForeColor", fixed_color<system_color::button_text>, color_field<&S::mlButtonForeColor>},
+    SavedProperty{u"ButtonBackColor", fixed_color<system_color::button_face>, color_field<&S::mlButtonBackColor>},
     SavedProperty{u"CheckBoxes", no, field<&S::mbCheckBoxes>},
     SavedProperty{u"AllowResize", no, field<&S::mbAllowResize>},
     SavedProperty{u"AllowColumnReorder", no, field<&S::mbAllowColumnReorder>},
     SavedProperty{u"ShowItemToolTips", no, field<&S::mbShowItemToolTips>},
-    SavedProperty{u"ForeColor", fixed<window_text_color>, text_fore_color},
-    SavedProperty{u"BackColor", fixed<window_color>, text_back_color},
+    SavedProperty{u"ForeColor", fixed_color<system_color::window_text>, text_fore_color},
+    SavedProperty{u"BackColor", fixed_color<system_color::window>, text_back_color},
     SavedProperty{u"Alignment", long_0, field<&S::mlAlignment>},
     SavedProperty{u"MaxLength", long_0, field<&S::mlMaxLength>},
     SavedProperty{u"LeftMargin", long_0, field<&S::mlLeftMargin>},

@@ -15,10 +15,6 @@ namespace vellora {
 
 namespace {
 
-// Marlett draws an up and a down arrow for these.
-constexpr std::u16string_view up_arrow = u"5";
-constexpr std::u16string_view down_arrow = u"6";
-
 // Lowers gbListOpen at the end of a closing, but only if it was this list's: a handler may open another one while a
 // list closes that was never open for good.
 class ListClosing {

@@ -56,9 +56,8 @@ HWND VelloraClient::window() { return peers_.surface.handle(); }
 SIZE VelloraClient::natural_size() {
     const float pixel = peers_.surface.twips_per_pixel_y();
     const int dpi = static_cast<int>(1440 / pixel);
-    const int text = static_cast<int>(peers_.surface.text_height(u"yY") / pixel);
-    constexpr int padding = 8; // as the layout has it
-    return {MulDiv(natural_width, dpi, 96), text + padding};
+    const int height = static_cast<int>(control_.layout().automatic_height() / pixel);
+    return {MulDiv(natural_width, dpi, 96), height};
 }
 
 // The window has told the layout already.

@@ -9,6 +9,10 @@
 
 namespace vellora {
 
+/// The captions of a drop button: Marlett, the platform's symbol font, draws an arrow for each.
+inline constexpr std::u16string_view up_arrow = u"5";
+inline constexpr std::u16string_view down_arrow = u"6";
+
 class CheckButtonListener {
 public:
     /// The value changed, by a click or by set_value. `index` is the element of the control array.
@@ -29,7 +33,7 @@ public:
     /// 0 raised, 1 pressed. Setting another value raises button_clicked, as the host's check box does.
     virtual int value() const = 0;
     virtual void set_value(int value) = 0;
-    /// In Marlett: "6" draws a down arrow, "5" an up arrow.
+    /// Drawn in Marlett.
     virtual std::u16string caption() const = 0;
     virtual void set_caption(std::u16string_view caption) = 0;
     virtual OleColor fore_color() const = 0;

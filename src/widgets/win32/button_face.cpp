@@ -1,5 +1,6 @@
 #include "widgets/win32/button_face.h"
 
+#include "widgets/check_button.h"
 #include "widgets/win32/handles.h"
 #include "widgets/win32/ole_color.h"
 #include "widgets/win32/visual_style.h"
@@ -13,9 +14,6 @@
 namespace vellora::win32 {
 
 namespace {
-
-constexpr std::u16string_view down_arrow = u"6";
-constexpr std::u16string_view up_arrow = u"5";
 
 std::u16string_view glyph_of(const ButtonFace& face) {
     return face.caption.empty() ? down_arrow : std::u16string_view(face.caption);

@@ -2,7 +2,7 @@
 // plain raised button in the given colours otherwise.
 #pragma once
 
-#include "runtime/geometry.h"
+#include "runtime/system_colors.h"
 
 #include <windows.h>
 
@@ -11,9 +11,9 @@
 namespace vellora::win32 {
 
 struct ButtonFace {
-    std::u16string caption; // in Marlett; nothing stands for "6", the down arrow
-    OleColor fore_color = 0x80000012;
-    OleColor back_color = 0x8000000F;
+    std::u16string caption; // in Marlett; nothing stands for the down arrow
+    OleColor fore_color = system_color::button_text;
+    OleColor back_color = system_color::button_face;
     bool pressed = false;
     bool enabled = true;
     bool hot = false; // the mouse is over it

@@ -1,7 +1,6 @@
 #include "widgets/win32/check_button_peer.h"
 
 #include "widgets/win32/paint_buffer.h"
-#include "widgets/win32/user_input.h"
 #include "widgets/win32/visual_style.h"
 
 namespace vellora::win32 {
@@ -91,39 +90,25 @@ LRESULT CheckButtonPeer::on_message(HWND window, UINT message, WPARAM wparam, LP
         redraw(window);
         focus_.left_to(reinterpret_cast<HWND>(wparam));
         return 0;
+    case WM_MOUSELEAVE:
+        return mouse_left();
     case WM_ERASEBKGND:
         return 1;
     case WM_PAINT:
         return paint(window);
     default:
-        return on_mouse(window, message, wparam, lparam);
+        return receive_mouse(*this, message, lparam) ? 0 : DefWindowProcW(window, message, wparam, lparam);
     }
-}
-
-LRESULT CheckButtonPeer::on_mouse(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
-    if (message == WM_MOUSEMOVE) {
-        return track(point_of(lparam));
-    }
-    if (message == WM_MOUSELEAVE) {
-        return mouse_left();
-    }
-    if (is_button_down(message)) {
-        return begin_press(button_of(message), lparam);
-    }
-    if (is_button_up(message)) {
-        return end_press(button_of(message), point_of(lparam));
-    }
-    return DefWindowProcW(window, message, wparam, lparam);
 }
 
 // A press on the button of an open list activates the form, and that closes the list before the press arrives
 // here. Such a press was meant for the list that was open, not for opening it again.
 //
 // The focus comes last: it too closes an open list, which may take the capture away or hide the button.
-LRESULT CheckButtonPeer::begin_press(std::int16_t button, LPARAM lparam) {
-    const bool outdated = changed_at_ && is_mouse_older_than(*changed_at_, handle(), lparam);
+void CheckButtonPeer::mouse_pressed(std::int16_t button, POINT point) {
+    const bool outdated = changed_at_ && is_mouse_older_than(*changed_at_, handle(), point);
     if (press_ || !visible() || outdated) {
-        return 0;
+        return;
     }
     const Lifeline::Watch watch(lifeline_);
     press_ = Press{button, true};
@@ -135,12 +120,11 @@ LRESULT CheckButtonPeer::begin_press(std::int16_t button, LPARAM lparam) {
     if (watch.alive() && press_ && button == left_button) {
         SetFocus(handle());
     }
-    return 0;
 }
 
-LRESULT CheckButtonPeer::end_press(std::int16_t button, POINT point) {
+void CheckButtonPeer::mouse_released(std::int16_t button, POINT point) {
     if (!press_ || press_->button != button) {
-        return 0;
+        return;
     }
     const bool clicks = button == left_button && contains(point);
     const Lifeline::Watch watch(lifeline_);
@@ -151,10 +135,9 @@ LRESULT CheckButtonPeer::end_press(std::int16_t button, POINT point) {
     if (watch.alive() && clicks && visible()) {
         toggle();
     }
-    return 0;
 }
 
-LRESULT CheckButtonPeer::track(POINT point) {
+void CheckButtonPeer::mouse_moved(POINT point) {
     const bool inside = contains(point);
     if (!hot_ && inside && uses_visual_styles()) {
         hot_ = true;
@@ -165,7 +148,6 @@ LRESULT CheckButtonPeer::track(POINT point) {
         press_->inside = inside;
         redraw(handle());
     }
-    return 0;
 }
 
 LRESULT CheckButtonPeer::mouse_left() {

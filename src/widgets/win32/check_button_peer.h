@@ -2,17 +2,19 @@
 // the value. It is no tab stop; the focus comes to it by a press only.
 #pragma once
 
+#include "runtime/system_colors.h"
 #include "widgets/check_button.h"
 #include "widgets/win32/button_face.h"
 #include "widgets/win32/lifeline.h"
 #include "widgets/win32/surface_window.h"
+#include "widgets/win32/user_input.h"
 #include "widgets/win32/window_widget.h"
 
 #include <optional>
 
 namespace vellora::win32 {
 
-class CheckButtonPeer final : public WindowWidget<CheckButton>, private OwnWindow {
+class CheckButtonPeer final : public WindowWidget<CheckButton>, private OwnWindow, private MouseReceiver {
 public:
     /// Created hidden and without size. `index` goes with every event; `looks_pressed_at` is the value at
     /// which the button looks pressed. Throws std::bad_alloc without a window. The surface outlives the peer.
@@ -41,11 +43,10 @@ private:
 
     HWND widget_window() const override { return handle(); }
     LRESULT on_message(HWND window, UINT message, WPARAM wparam, LPARAM lparam) override;
-    LRESULT on_mouse(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
     LRESULT key(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
-    LRESULT begin_press(std::int16_t button, LPARAM lparam);
-    LRESULT end_press(std::int16_t button, POINT point);
-    LRESULT track(POINT point);
+    void mouse_moved(POINT point) override;
+    void mouse_pressed(std::int16_t button, POINT point) override;
+    void mouse_released(std::int16_t button, POINT point) override;
     LRESULT mouse_left();
     LRESULT paint(HWND window);
     void cancel_press();
@@ -60,9 +61,9 @@ private:
     int looks_pressed_at_;
     int value_ = 0;
     std::u16string caption_;
-    OleColor fore_color_ = 0x80000012; // button text
-    OleColor back_color_ = 0x8000000F; // button face
-    std::optional<DWORD> changed_at_;  // by GetTickCount
+    OleColor fore_color_ = system_color::button_text;
+    OleColor back_color_ = system_color::button_face;
+    std::optional<DWORD> changed_at_; // by GetTickCount
     std::optional<Press> press_;
     bool space_held_ = false;
     bool hot_ = false;

@@ -2,6 +2,7 @@
 // containers that paint a control instead of showing its window.
 #pragma once
 
+#include "runtime/system_colors.h"
 #include "widgets/win32/button_face.h"
 #include "widgets/win32/edit_window.h"
 
@@ -15,8 +16,8 @@ struct TextFace {
     std::u16string text;
     TextAlignment alignment = TextAlignment::left;
     HFONT font = nullptr;
-    OleColor fore_color = 0x80000008;
-    OleColor back_color = 0x80000005;
+    OleColor fore_color = system_color::window_text;
+    OleColor back_color = system_color::window;
     bool enabled = true;
     int left_margin = 0; // pixels
     int right_margin = 0;
@@ -24,7 +25,7 @@ struct TextFace {
 
 struct FieldFace {
     SIZE size{}; // outer, in pixels
-    OleColor back_color = 0x80000005;
+    OleColor back_color = system_color::window;
     TextFace text_field;
     RECT button_place{};
     ButtonFace button;

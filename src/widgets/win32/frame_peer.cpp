@@ -1,7 +1,6 @@
 #include "widgets/win32/frame_peer.h"
 
 #include "widgets/win32/paint_buffer.h"
-#include "widgets/win32/user_input.h"
 
 #include <algorithm>
 #include <utility>
@@ -64,22 +63,8 @@ LRESULT FramePeer::on_message(HWND window, UINT message, WPARAM wparam, LPARAM l
     case WM_PAINT:
         return paint(window);
     default:
-        return on_mouse(window, message, wparam, lparam);
+        return receive_mouse(*this, message, lparam) ? 0 : DefWindowProcW(window, message, wparam, lparam);
     }
-}
-
-LRESULT FramePeer::on_mouse(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
-    if (message == WM_MOUSEMOVE) {
-        return move_mouse(point_of(lparam));
-    }
-    if (is_button_down(message)) {
-        return press(point_of(lparam), button_of(message));
-    }
-    if (is_button_up(message)) {
-        ReleaseCapture();
-        return 0;
-    }
-    return DefWindowProcW(window, message, wparam, lparam);
 }
 
 FrameContent* FramePeer::content_at(POINT point) const {
@@ -93,7 +78,7 @@ FrameContent* FramePeer::target_of(POINT point) const {
     return pressed_ != nullptr ? pressed_ : content_at(point);
 }
 
-LRESULT FramePeer::press(POINT point, std::int16_t button) {
+void FramePeer::mouse_pressed(std::int16_t button, POINT point) {
     pressed_ = target_of(point);
     if (pressed_ != nullptr) {
         if (GetCapture() != handle()) {
@@ -101,14 +86,17 @@ LRESULT FramePeer::press(POINT point, std::int16_t button) {
         }
         pressed_->mouse_pressed(button);
     }
-    return 0;
+}
+
+void FramePeer::mouse_released(std::int16_t, POINT) {
+    ReleaseCapture();
 }
 
 // What moves under the mouse may want another pointer than it had when the mouse came.
-LRESULT FramePeer::move_mouse(POINT point) {
+void FramePeer::mouse_moved(POINT point) {
     FrameContent* const content = target_of(point);
     if (content == nullptr) {
-        return 0;
+        return;
     }
     const Lifeline::Watch watch(lifeline_);
     content->mouse_moved();
@@ -116,7 +104,6 @@ LRESULT FramePeer::move_mouse(POINT point) {
     if (now != nullptr) {
         show_cursor(now->cursor());
     }
-    return 0;
 }
 
 LRESULT FramePeer::release() {

@@ -2,10 +2,12 @@
 // shares its parent.
 #pragma once
 
+#include "runtime/system_colors.h"
 #include "widgets/frame.h"
 #include "widgets/win32/lifeline.h"
 #include "widgets/win32/ole_color.h"
 #include "widgets/win32/surface_window.h"
+#include "widgets/win32/user_input.h"
 #include "widgets/win32/window_widget.h"
 
 #include <vector>
@@ -28,7 +30,7 @@ protected:
     ~FrameContent() = default;
 };
 
-class FramePeer final : public WindowWidget<Frame>, private OwnWindow {
+class FramePeer final : public WindowWidget<Frame>, private OwnWindow, private MouseReceiver {
 public:
     /// Created hidden and without size. Throws std::bad_alloc without a window. The surface outlives the
     /// peer, and the peer its contents.
@@ -50,9 +52,9 @@ public:
 private:
     HWND widget_window() const override { return handle(); }
     LRESULT on_message(HWND window, UINT message, WPARAM wparam, LPARAM lparam) override;
-    LRESULT on_mouse(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
-    LRESULT press(POINT point, std::int16_t button);
-    LRESULT move_mouse(POINT point);
+    void mouse_moved(POINT point) override;
+    void mouse_pressed(std::int16_t button, POINT point) override;
+    void mouse_released(std::int16_t button, POINT point) override;
     LRESULT release();
     LRESULT choose_cursor(HWND window, WPARAM wparam, LPARAM lparam);
     LRESULT paint(HWND window);
@@ -62,7 +64,7 @@ private:
     Lifeline lifeline_;
     std::vector<FrameContent*> contents_;
     FrameContent* pressed_ = nullptr;
-    OleColor back_color_ = 0x8000000F; // button face
+    OleColor back_color_ = system_color::button_face;
     ColorBrush background_;
     std::u16string tag_;
 };

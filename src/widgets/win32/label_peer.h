@@ -1,6 +1,7 @@
 // A text that its frame paints, as large as it is in its font. It hears of the mouse over it.
 #pragma once
 
+#include "runtime/system_colors.h"
 #include "widgets/win32/frame_peer.h"
 #include "widgets/win32/handles.h"
 
@@ -37,7 +38,7 @@ private:
     LabelListener* listener_ = nullptr;
     std::u16string caption_;
     UniqueGdiFont font_;
-    OleColor fore_color_ = 0x80000012; // button text
+    OleColor fore_color_ = system_color::button_text;
     RECT place_{};
     std::int32_t pointer_ = mouse_pointer::standard;
 };

@@ -1,21 +1,16 @@
 #include "widgets/win32/list_appearance.h"
 
 #include "runtime/host_error.h"
+#include "runtime/system_colors.h"
 #include "widgets/win32/handles.h"
 #include "widgets/win32/ole_color.h"
 #include "widgets/win32/window_widget.h"
 
 namespace vellora::win32 {
 
-namespace {
-
-constexpr OleColor system_window_text = 0x80000000u + COLOR_WINDOWTEXT;
-constexpr OleColor system_window = 0x80000000u + COLOR_WINDOW;
-
-} // namespace
-
 ListAppearance::ListAppearance(const ListWindow& window)
-    : window_(window), fore_color_(system_window_text), back_color_(system_window), shown_(wanted_colors()) {
+    : window_(window), fore_color_(system_color::window_text), back_color_(system_color::window),
+      shown_(wanted_colors()) {
     apply_colors();
 }
 

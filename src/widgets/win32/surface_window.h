@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/surface.h"
+#include "runtime/system_colors.h"
 #include "widgets/win32/focus_tracker.h"
 #include "widgets/win32/lifeline.h"
 #include "widgets/win32/ole_color.h"
@@ -77,7 +78,7 @@ private:
     SurfaceListener* listener_ = nullptr;
     SurfaceHost* host_ = nullptr;
     bool passing_focus_on_ = false;
-    OleColor back_color_ = 0x80000005; // window background
+    OleColor back_color_ = system_color::window;
     ColorBrush background_;
     FontInUse font_{[](HFONT) {}};
 };

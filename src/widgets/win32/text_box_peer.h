@@ -1,6 +1,7 @@
 // A text box on the platform's own edit field. It stands on the surface without a border.
 #pragma once
 
+#include "runtime/system_colors.h"
 #include "widgets/text_box.h"
 #include "widgets/win32/edit_window.h"
 #include "widgets/win32/face_painter.h"
@@ -73,8 +74,8 @@ private:
     TextBoxInput input_;
     std::u16string known_text_;
     std::int32_t max_length_ = 0;
-    OleColor fore_color_ = 0x80000008; // window text
-    OleColor back_color_ = 0x80000005; // window background
+    OleColor fore_color_ = system_color::window_text;
+    OleColor back_color_ = system_color::window;
     ColorBrush background_;
     std::optional<WORD> left_margin_; // as EM_SETMARGINS brought them
     std::optional<WORD> right_margin_;

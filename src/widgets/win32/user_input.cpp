@@ -58,8 +58,21 @@ POINT point_of(LPARAM lparam) {
     return {GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)};
 }
 
-bool is_mouse_older_than(DWORD tick, HWND window, LPARAM lparam) {
-    POINT point = point_of(lparam);
+bool receive_mouse(MouseReceiver& receiver, UINT message, LPARAM lparam) {
+    const POINT point = point_of(lparam);
+    if (message == WM_MOUSEMOVE) {
+        receiver.mouse_moved(point);
+    } else if (is_button_down(message)) {
+        receiver.mouse_pressed(button_of(message), point);
+    } else if (is_button_up(message)) {
+        receiver.mouse_released(button_of(message), point);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+bool is_mouse_older_than(DWORD tick, HWND window, POINT point) {
     ClientToScreen(window, &point);
     const POINT last = point_of(static_cast<LPARAM>(GetMessagePos()));
     const bool is_from_mouse = point.x == last.x && point.y == last.y;

@@ -26,8 +26,22 @@ bool is_button_up(UINT message);
 std::int16_t button_of(UINT message);
 POINT point_of(LPARAM lparam);
 
+/// A window that takes the mouse. Points are pixels in its client area.
+class MouseReceiver {
+public:
+    virtual void mouse_moved(POINT point) = 0;
+    virtual void mouse_pressed(std::int16_t button, POINT point) = 0;
+    virtual void mouse_released(std::int16_t button, POINT point) = 0;
+
+protected:
+    ~MouseReceiver() = default;
+};
+
+/// Hands a move, a press or a release to its receiver, which may end by it. False for any other message.
+bool receive_mouse(MouseReceiver& receiver, UINT message, LPARAM lparam);
+
 /// Whether the user did what a mouse message of this window is about before `tick`, by GetTickCount, or in
 /// that very tick. A message that did not come from the mouse is never old.
-bool is_mouse_older_than(DWORD tick, HWND window, LPARAM lparam);
+bool is_mouse_older_than(DWORD tick, HWND window, POINT point);
 
 } // namespace vellora::win32
