@@ -65,6 +65,7 @@ UniqueGdiFont glyph_font(const RECT& place) {
     LOGFONTW font{};
     font.lfHeight = std::min(place.right - place.left, place.bottom - place.top) * 4 / 5;
     font.lfCharSet = SYMBOL_CHARSET;
+    font.lfQuality = NONANTIALIASED_QUALITY; // as sharp as the platform draws its own
     constexpr std::wstring_view marlett = L"Marlett";
     marlett.copy(font.lfFaceName, marlett.size());
     return UniqueGdiFont(CreateFontIndirectW(&font));

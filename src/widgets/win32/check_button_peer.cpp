@@ -28,7 +28,9 @@ CheckButtonPeer::CheckButtonPeer(SurfaceWindow& surface, int index, int looks_pr
 
 ButtonFace CheckButtonPeer::face() const {
     const bool held = space_held_ || (press_ && press_->button == left_button && press_->inside);
-    return {caption_, fore_color_, back_color_, held || value_ == looks_pressed_at_, enabled(), hot_};
+    // Nobody says that the mouse has left while a press holds it.
+    const bool hot = hot_ && (!press_ || press_->inside);
+    return {caption_, fore_color_, back_color_, held || value_ == looks_pressed_at_, enabled(), hot};
 }
 
 void CheckButtonPeer::set_value(int value) {
