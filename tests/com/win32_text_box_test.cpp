@@ -146,6 +146,16 @@ TEST_F(Win32TextBoxTest, SelectionFollowsItsNumbersWithinTheText) {
     EXPECT_EQ(box_->selection_start(), 6);
 }
 
+TEST_F(Win32TextBoxTest, SelectingALongTextLeavesItsBeginningInSight) {
+    const std::u16string text(400, u'W');
+    box_->set_text(text);
+    box_->set_selection_start(0);
+    box_->set_selection_length(400);
+    EXPECT_EQ(0, SendMessageW(window_of(*box_), EM_GETFIRSTVISIBLELINE, 0, 0));
+    EXPECT_EQ(box_->selected_text(), text);
+    EXPECT_EQ(box_->selection_start(), 0);
+}
+
 TEST_F(Win32TextBoxTest, RefusesNegativeNumbers) {
     EXPECT_EQ(raised([&] { box_->set_selection_start(-1); }), error_number::invalid_property_value);
     EXPECT_EQ(raised([&] { box_->set_selection_length(-1); }), error_number::invalid_property_value);

@@ -94,12 +94,22 @@ void TextBoxPeer::set_selection_start(std::int32_t start) {
     edit_.send(EM_SCROLLCARET);
 }
 
-// The view stays where it is: selecting a long text whole must not scroll its beginning away.
+// The view stays where it is: selecting a long text whole must not scroll its beginning away. Where the
+// platform moves it to the end of a selection, the selection is made from there to its beginning.
 void TextBoxPeer::set_selection_length(std::int32_t length) {
     check_not_negative(length);
     const std::int32_t start = selection().start;
     const std::int32_t rest = std::max(0, GetWindowTextLengthW(edit_.handle()) - start);
-    edit_.send(EM_SETSEL, static_cast<WPARAM>(start), start + std::min(length, rest));
+    const std::int32_t end = start + std::min(length, rest);
+    const LRESULT view = first_visible_character();
+    edit_.send(EM_SETSEL, static_cast<WPARAM>(start), end);
+    if (first_visible_character() != view) {
+        edit_.send(EM_SETSEL, static_cast<WPARAM>(end), start);
+    }
+}
+
+LRESULT TextBoxPeer::first_visible_character() const {
+    return edit_.send(EM_GETFIRSTVISIBLELINE);
 }
 
 std::size_t TextBoxPeer::room_for_selection() const {

@@ -64,6 +64,7 @@ private:
     void apply_font(HFONT font);
     void apply_margins();
     Selection selection() const;
+    LRESULT first_visible_character() const;
     std::size_t room_for_selection() const;
 
     Lifeline lifeline_;
