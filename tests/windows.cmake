@@ -26,7 +26,7 @@ include(${tests_dir}/hosting/hosting.cmake)
 # screen/: a form that the Python tests drive line by line.
 file(GLOB form_host_sources CONFIGURE_DEPENDS ${tests_dir}/support/form_host/*.cpp)
 if(form_host_sources)
-  add_executable(form_host ${form_host_sources})
+  add_executable(form_host ${form_host_sources} ${tests_dir}/support/form_host/form_host.rc)
   target_link_libraries(form_host PRIVATE test_container vellora_idl ${host_libraries})
   add_dependencies(form_host VelloraCTL)
 endif()

@@ -27,8 +27,10 @@ def artifact(name):
     return os.path.join(folder, name)
 
 
-def photograph(path):
-    subprocess.run(["import", "-window", "root", path], check=True)
+def photograph(path, part=None):
+    """The screen, or the part "WIDTHxHEIGHT+X+Y" of it."""
+    crop = ["-crop", part, "+repage"] if part else []
+    subprocess.run(["import", "-window", "root", *crop, path], check=True)
 
 
 def wait_for(condition, what, patience=PATIENCE):
@@ -60,12 +62,13 @@ class CallFailed(Exception):
 class FormHost:
     """A form_host.exe in the bed. Members of controls are called by name."""
 
-    def __init__(self, *arguments, title="Vellora form"):
+    def __init__(self, *arguments, title="Vellora form", dpi=None):
         program = os.path.join(ROOT, "build", ARCH, "tests", "form_host.exe")
         self.title = title
         self.process = subprocess.Popen(
             wine_command(program, *arguments, "--title", title),
-            stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True, encoding="utf-8")
+            stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True, encoding="utf-8",
+            env=dict(os.environ, **({"VELLORA_DPI": str(dpi)} if dpi else {})))
         self._read()
         self.x_window = wait_for(self._find_x_window, f"the window of {title}")
 
@@ -118,6 +121,13 @@ class FormHost:
 
     def put(self, control, member, value, *args):
         self.do("put", control=control, member=member, value=value, args=list(args))
+
+    def set(self, control, member, value):
+        self.do("set", control=control, member=member, value=value)
+
+    def put_of(self, control, property_name, member, value):
+        """Writes a property of the object that a property of the control holds."""
+        self.do("put", control=control, of=property_name, member=member, value=value)
 
     def call(self, control, member, *args):
         return self.do("call", control=control, member=member, args=list(args))
@@ -221,6 +231,20 @@ class Picture:
                 color = tuple(line[i:i + 3])
                 found[color] = found.get(color, 0) + 1
         return found
+
+    def first_pixel(self, rect, wanted):
+        """Row by row, the first place in a rectangle whose colour is wanted, relative to the rectangle."""
+        for y in range(rect[1], rect[3]):
+            for x in range(rect[0], rect[2]):
+                if wanted(self.pixel(x, y)):
+                    return x - rect[0], y - rect[1]
+        return None
+
+    def differences(self, rect, other_rect, other=None):
+        """Where two rectangles of one size differ, relative to them."""
+        other = other or self
+        return [(x, y) for y in range(rect[3] - rect[1]) for x in range(rect[2] - rect[0])
+                if self.pixel(rect[0] + x, rect[1] + y) != other.pixel(other_rect[0] + x, other_rect[1] + y)]
 
     def same(self, other, rect):
         return all(self.data[(y * self.width + rect[0]) * 3:(y * self.width + rect[2]) * 3]

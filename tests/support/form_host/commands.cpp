@@ -4,6 +4,7 @@
 #include "support/container/control_windows.h"
 #include "support/container/failure.h"
 #include "support/container/text.h"
+#include "support/form_host/looks.h"
 #include "support/form_host/reports.h"
 #include "support/form_host/values.h"
 
@@ -26,8 +27,16 @@ Json create_edit(HostForm& host, const Json& command) {
     return nullptr;
 }
 
+// The control, or the object that one of its properties holds.
 ComPtr<IDispatch> object_of(HostForm& host, const Json& command) {
-    return host.control(command.must("control").text()).as<IDispatch>();
+    const ComPtr<IDispatch> control = host.control(command.must("control").text()).as<IDispatch>();
+    const Json& property = command.get("of");
+    if (!property.is_text())
+        return control;
+    const Variant object = get_property(control.Get(), wide(property.text()));
+    if (object.type() != VT_DISPATCH || !object.get().pdispVal)
+        throw JsonError("there is no object in \"" + property.text() + '"');
+    return object.get().pdispVal;
 }
 std::wstring member_of(const Json& command) {
     return wide(command.must("member").text());
@@ -95,6 +104,23 @@ Json place(HostForm& host, const Json& command) {
     return nullptr;
 }
 
+Json enable(HostForm& host, const Json& command) {
+    EnableWindow(host.edit(command.must("edit").text()), command.must("enabled").truth());
+    return nullptr;
+}
+
+Json remove_window(HostForm& host, const Json& command) {
+    DestroyWindow(host.edit(command.must("edit").text()));
+    return nullptr;
+}
+
+Json send_message(HostForm& host, const Json& command) {
+    const auto number = [&](const char* name) { return static_cast<long>(command.must(name).number()); };
+    return static_cast<long>(SendMessageW(host.edit(command.must("edit").text()),
+                                          static_cast<UINT>(number("message")),
+                                          static_cast<WPARAM>(number("wparam")), number("lparam")));
+}
+
 Json set_focus(HostForm& host, const Json& command) {
     if (const Json& edit = command.get("edit"); edit.is_text())
         SetFocus(host.edit(edit.text()));
@@ -109,6 +135,13 @@ Json carry_out(HostForm& host, const Json& command) {
     using Command = Json (*)(HostForm&, const Json&);
     static const std::map<std::string, Command> commands = {{"create", create},
                                                             {"edit", create_edit},
+                                                            {"combo", create_combo},
+                                                            {"portrait", create_portrait},
+                                                            {"system_colors", set_system_colors},
+                                                            {"get_system_colors", get_system_colors},
+                                                            {"enable", enable},
+                                                            {"remove", remove_window},
+                                                            {"send", send_message},
                                                             {"get", get},
                                                             {"put", put},
                                                             {"set", set},
@@ -126,6 +159,7 @@ Json carry_out(HostForm& host, const Json& command) {
                                                             {"floating", report_floating},
                                                             {"form", report_form},
                                                             {"paint", paint_all},
+                                                            {"repaint", repaint_all},
                                                             {"input", report_input}};
     const std::string& name = command.must("do").text();
     const auto found = commands.find(name);

@@ -21,6 +21,8 @@ public:
     /// A Vellora control of that name; `bag` holds settings it is loaded with, null makes a new one.
     void create(const std::string& name, const RECT& place, const Json& bag, bool design);
     void create_edit(const std::string& name, const RECT& place);
+    /// Any other child of the form, which is then known by its name as the edits are.
+    void adopt_window(const std::string& name, HWND window) { edits_[name] = window; }
     /// Throws JsonError when there is no such control or edit (any more).
     Site& control(const std::string& name);
     HWND edit(const std::string& name);

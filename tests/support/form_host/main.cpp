@@ -3,6 +3,7 @@
 #include "support/form_host/commands.h"
 #include "support/form_host/input_counter.h"
 #include "support/form_host/line_reader.h"
+#include "support/form_host/looks.h"
 
 #include "support/container/text.h"
 
@@ -25,6 +26,8 @@ Form::Look look_from_command_line() {
             look.kind = Form::Kind::mdi_child;
         else if (argument == L"--dialog")
             look.kind = Form::Kind::dialog;
+        else if (argument == L"--styled")
+            use_visual_styles();
         else if (argument == L"--title" && i + 1 < count)
             look.title = arguments[++i];
     }

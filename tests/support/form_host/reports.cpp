@@ -25,6 +25,29 @@ long ask(HWND window, UINT message, WPARAM wparam = 0, LPARAM lparam = 0) {
     return static_cast<long>(SendMessageW(window, message, wparam, lparam));
 }
 
+RECT client_rect(HWND window) {
+    RECT rect{};
+    GetClientRect(window, &rect);
+    MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
+}
+
+RECT combo_button(HWND combo) {
+    COMBOBOXINFO parts{};
+    parts.cbSize = sizeof parts;
+    GetComboBoxInfo(combo, &parts);
+    MapWindowPoints(combo, nullptr, reinterpret_cast<POINT*>(&parts.rcButton), 2);
+    return parts.rcButton;
+}
+
+void redraw_all(HostForm& host, UINT how) {
+    std::vector<HWND> windows = floating_windows();
+    windows.push_back(host.form().frame());
+    for (HWND window : windows)
+        RedrawWindow(window, nullptr, nullptr, how | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    GdiFlush();
+}
+
 Json widths(HWND list) {
     Json::List result;
     const long count = ask(header_of(list), HDM_GETITEMCOUNT);
@@ -40,10 +63,12 @@ Json report_rect(HostForm& host, const Json& command) {
     const auto window = [&] { return host.window(command.must("control").text()); };
     const std::map<std::string, std::function<RECT()>> rects = {
         {"form", [&] { return screen_rect(host.form().frame()); }},
+        {"inside", [&] { return client_rect(host.form().window()); }},
         {"control", [&] { return screen_rect(window()); }},
         {"text", [&] { return screen_rect(text_field(window())); }},
         {"button", [&] { return screen_rect(drop_button(window())); }},
         {"edit", [&] { return screen_rect(host.edit(command.must("edit").text())); }},
+        {"combo_button", [&] { return combo_button(host.edit(command.must("edit").text())); }},
         {"floating", [&] { return screen_rect(floating_window()); }},
         {"list", [&] { return screen_rect(open_list()); }},
         {"row", [&] { return open_list() ? row_rect(open_list(), index_of(command)) : RECT{}; }},
@@ -93,11 +118,12 @@ Json report_floating(HostForm&, const Json&) {
 }
 
 Json paint_all(HostForm& host, const Json&) {
-    std::vector<HWND> windows = floating_windows();
-    windows.push_back(host.form().frame());
-    for (HWND window : windows)
-        RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
-    GdiFlush();
+    redraw_all(host, 0);
+    return nullptr;
+}
+
+Json repaint_all(HostForm& host, const Json&) {
+    redraw_all(host, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
     return nullptr;
 }
 

@@ -19,6 +19,7 @@ Json report_list(HostForm& host, const Json& command);
 Json report_floating(HostForm& host, const Json& command);
 /// Brings everything that is to be painted onto the screen.
 Json paint_all(HostForm& host, const Json& command);
+Json repaint_all(HostForm& host, const Json& command);
 /// {"alive": ..., "active": ..., "minimised": ...}
 Json report_form(HostForm& host, const Json& command);
 /// How many input messages of each kind this program has taken from its queue.

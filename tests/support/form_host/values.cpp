@@ -3,6 +3,7 @@
 #include "support/container/ambients.h"
 #include "support/container/arrays.h"
 #include "support/container/text.h"
+#include "support/container/pictures.h"
 
 #include <cmath>
 
@@ -19,6 +20,14 @@ Variant typed(const Json& value) {
         return {};
     if (kind == "font")
         return make_font(wide(content.list().at(0).text()), content.list().at(1).number()).Get();
+    if (kind == "picture") {
+        const Json::List& size = content.list();
+        return make_picture(size.at(0).text(),
+                            {static_cast<LONG>(size.at(1).number()), static_cast<LONG>(size.at(2).number())})
+            .Get();
+    }
+    if (kind == "nothing")
+        return static_cast<IDispatch*>(nullptr);
     if (kind == "texts") {
         std::vector<std::wstring> texts;
         for (const Json& text : content.list())
