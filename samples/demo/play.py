@@ -12,6 +12,7 @@ sys.path.insert(0, os.path.join(ROOT, "tests", "screen"))
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
 from player import Demo, Player  # noqa: E402
+from sheet import make_sheet  # noqa: E402
 from support.bed import xdotool  # noqa: E402
 
 OPENED, CLICKED, CLOSED = "DropDown(vlOpen)", "Click()", "DropDown(vlClosed)"
@@ -196,6 +197,12 @@ def play_resolution(play, dpi):
             demo.expect_closed()
 
 
+def make_sheets(play):
+    for dpi, styled in ((96, False), (96, True), (120, False), (144, False)):
+        looks = f"{dpi} dots per inch" + (" under visual styles" if styled else "")
+        print(f"Contact sheet of all looks at {looks}: {make_sheet(play.folder, dpi, styled)}", flush=True)
+
+
 SCENES = (play_start, play_keys_in_list, play_choosing, play_completion, play_long_list, play_closing,
           play_small_lists, play_right_to_left, play_check_boxes)
 
@@ -209,6 +216,7 @@ def main():
                 scene(play, demo)
         for dpi in (120, 144):
             play_resolution(play, dpi)
+        make_sheets(play)
     except AssertionError as failure:
         where = f"in step {play.number}" if play.number else "at the start"
         print(f"\nFAILED {where}: {failure}")

@@ -6,7 +6,7 @@ PACKAGES_MINGW='g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix mingw-w64-to
 PACKAGES_NATIVE='cmake ninja-build googletest g++ python3'
 PACKAGES_BED32='mmdebstrap arch-test bubblewrap ca-certificates'
 PACKAGES_BED64='wine64 fonts-wine fonts-liberation'
-PACKAGES_SCREEN='xvfb xdotool openbox imagemagick x11-utils xauth python3'
+PACKAGES_SCREEN='xvfb xdotool openbox imagemagick fonts-liberation x11-utils xauth python3'
 PACKAGES_DATA='tzdata unicode-data'
 
 # need_packages NAME... - installs what is missing, with one question to dpkg.
