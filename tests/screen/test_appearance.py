@@ -1,6 +1,8 @@
 """How the closed control looks: beside the platform's own combo box, in the colours of its own and the system's, and as
 the container paints it.
 """
+import os
+
 from support.bed import move
 from support.looks import (BITMAP_FONT, BLUE, BUTTON_FACE, BUTTON_TEXT, NOWHERE, RED, TEXT, WINDOW, WINDOW_TEXT, YELLOW,
                            LookTest, rgb)
@@ -50,7 +52,8 @@ class BesideTheCombo(LookTest):
         self.host.do("enable", edit="combo", enabled=False)
         shown = self.picture("disabled")
         field = self.host.rect("text")
-        window, gray = shown.pixel(field[2] - 3, field[1] + 6), shown.pixel(theirs[2] - 24, theirs[1] + 6)
+        their_button = self.buttons()[1]
+        window, gray = shown.pixel(field[2] - 3, field[1] + 6), shown.pixel(their_button[0] - 5, their_button[1] + 4)
         self.assertEqual(before.pixel(field[2] - 3, field[1] + 6), window)
         for x, y in shown.differences(ours, theirs):
             self.assertEqual((window, gray), (shown.pixel(ours[0] + x, ours[1] + y),
@@ -129,13 +132,16 @@ class ButtonTest(LookTest):
     def test_an_own_colour_changes_the_colour_of_the_arrow_and_nothing_else(self):
         self.create()
         plain, button = self.picture("plain"), self.host.rect("button")
+        face = plain.pixel(button[0] + 4, button[1] + 4)
         self.host.put("Vellora1", "ButtonForeColor", RED)
         coloured = self.picture("coloured")
-        changed = plain.differences(button, button, coloured)
-        self.assertTrue(changed)
-        for x, y in changed:
-            self.assertEqual(((0, 0, 0), rgb(RED)), (plain.pixel(button[0] + x, button[1] + y),
-                                                     coloured.pixel(button[0] + x, button[1] + y)))
+        changed = [(plain.pixel(button[0] + x, button[1] + y), coloured.pixel(button[0] + x, button[1] + y))
+                   for x, y in plain.differences(button, button, coloured)]
+        recoloured = ((0, 0, 0), rgb(RED))
+        self.assertIn(recoloured, changed)
+        # At higher resolutions the two arrows are not of quite the same size, but both are sharp.
+        resized = () if os.environ.get("VELLORA_DPI", "96") == "96" else (((0, 0, 0), face), (face, rgb(RED)))
+        self.assertLessEqual(set(changed), {recoloured, *resized})
 
 
 class SystemColourTest(LookTest):
@@ -210,7 +216,7 @@ class TextPlaceTest(LookTest):
         self.assertGreater(right, 100)
         self.host.put("Vellora1", "Alignment", 1)
         left, right = self.left_and_right("right")
-        self.assertLess(right, 6)
+        self.assertLess(right, 8)
         self.host.put("Vellora1", "Alignment", 2)
         left, right = self.left_and_right("centre")
         self.assertLessEqual(abs(left - right), 3)
