@@ -56,7 +56,7 @@ std::int32_t SortAndSearch::FindItem(const VariantArgument& Target, std::int16_t
             return find_anywhere(target, start, partial);
         }
         const std::int32_t column = SearchColumn == 0 ? core_.state.miTextColumn : SearchColumn;
-        return find_in_column(target, column - 1, start, partial);
+        return core_.parts.ListView1.rows().find_exact(target, column - 1, start, partial);
     });
 }
 
@@ -64,17 +64,6 @@ std::u16string SortAndSearch::search_text(const VariantArgument& target) const {
     std::u16string scratch;
     return std::u16string(target.is_array() ? target.text_at(target.lower_bound(1), scratch)
                                             : target.text(scratch));
-}
-
-std::int32_t SortAndSearch::find_in_column(std::u16string_view target, std::int32_t column, std::int32_t start,
-                                           bool partial) const {
-    const ListRows& rows = core_.parts.ListView1.rows();
-    const FindWhere where = column > 0 ? FindWhere::sub_items : FindWhere::text;
-    std::int32_t row = rows.find(target, where, start, partial);
-    while (row >= 0 && rows.text(row, column) != target) {
-        row = row + 1 < rows.count() ? rows.find(target, where, row + 1, partial) : -1;
-    }
-    return row;
 }
 
 std::int32_t SortAndSearch::find_anywhere(std::u16string_view target, std::int32_t start, bool partial) const {

@@ -29,8 +29,6 @@ public:
 
 private:
     std::u16string search_text(const VariantArgument& target) const;
-    std::int32_t find_in_column(std::u16string_view target, std::int32_t column, std::int32_t start,
-                                bool partial) const;
     std::int32_t find_anywhere(std::u16string_view target, std::int32_t start, bool partial) const;
 
     ControlCore& core_;

@@ -27,6 +27,7 @@ RowRef ListRows::insert(std::int32_t row) {
     if (row < 0 || row > count())
         throw HostError(error_number::index_out_of_bounds);
     store_->rows.insert(row);
+    store_->note(store_->rows.slot(row));
     if (store_->selected >= row)
         ++store_->selected;
     const RowRef added = ref(row);
@@ -37,7 +38,9 @@ RowRef ListRows::insert(std::int32_t row) {
 void ListRows::remove(std::int32_t row) {
     store_->record(row);
     const bool was_selected = store_->selected == row;
+    const std::uint32_t slot = store_->rows.slot(row);
     store_->rows.remove(row);
+    store_->note(slot);
     if (was_selected)
         store_->selected = -1;
     else if (store_->selected > row)
@@ -52,6 +55,7 @@ void ListRows::clear() {
         return;
     const bool had_selection = store_->selected >= 0;
     store_->rows.clear();
+    store_->note_clear();
     store_->selected = -1;
     store_->report_rows();
     if (had_selection)
@@ -77,6 +81,7 @@ void ListRows::set_text(std::int32_t row, std::int32_t column, std::u16string_vi
     if (store_->rows.record(row).texts.at(cell) == text)
         return;
     store_->rows.set_text(row, cell, text);
+    store_->note(store_->rows.slot(row));
     store_->report_row(row);
 }
 
@@ -87,6 +92,7 @@ std::int32_t ListRows::sub_item_count(std::int32_t row) const {
 void ListRows::add_sub_item(std::int32_t row, std::u16string_view text) {
     store_->record(row);
     store_->rows.add_text(row, text);
+    store_->note(store_->rows.slot(row));
     store_->report_row(row);
 }
 

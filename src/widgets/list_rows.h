@@ -98,6 +98,11 @@ public:
     /// on an empty list any start gives -1.
     std::int32_t find(std::u16string_view target, FindWhere where, std::int32_t start, bool partial) const;
 
+    /// The first row at or after `start` whose cell in this column, 0 or above, is the very target, case included;
+    /// -1 for none. Only rows that `find` proposes count (of the sub-items for any column but 0), and where one
+    /// that it proposes earlier lacks the cell, 35600 is raised. `start` as for `find`.
+    std::int32_t find_exact(std::u16string_view target, std::int32_t column, std::int32_t start, bool partial) const;
+
     /// The first row whose cell begins with the target, case ignored, rows without that cell left out; -1 for none.
     std::int32_t first_beginning_with(std::u16string_view target, std::int32_t column) const;
 

@@ -3,6 +3,9 @@
 
 #include "runtime/host_error.h"
 #include "widgets/list_rows.h"
+#include "widgets/row_changes.h"
+#include "widgets/row_indexes.h"
+#include "widgets/row_sort.h"
 #include "widgets/row_store.h"
 
 namespace vellora {
@@ -15,10 +18,13 @@ struct SortSettings {
 };
 
 struct ListRows::Store {
-    explicit Store(const TextCompare& text_compare) : compare(text_compare) {}
+    explicit Store(const TextCompare& text_compare) : compare(text_compare), indexes(rows, text_compare) {}
 
     const TextCompare& compare;
     RowStore rows;
+    RowIndexes indexes;
+    SortBy sorted_by;      // how the rows were sorted last
+    RowChanges since_sort; // what was changed then; not noting: too much, or never sorted
     RowsObserver* observer = nullptr;
     std::int32_t selected = -1;
     SortSettings sort;
@@ -39,6 +45,11 @@ struct ListRows::Store {
             throw HostError(error_number::index_out_of_bounds);
         return static_cast<std::uint32_t>(column);
     }
+
+    /// After every change of a row's texts or of the number of rows; before it is reported.
+    void note(std::uint32_t slot) noexcept;
+    /// The same where all rows have gone.
+    void note_clear() noexcept;
 
     void report_rows() {
         count_interval();
@@ -63,6 +74,8 @@ struct ListRows::Store {
 
     /// Takes the settings over and sorts where they say so.
     void arrange(const SortSettings& settings);
+    /// Whether any row moved.
+    bool sort_rows(const SortBy& by);
     void set_sort(const SortSettings& settings) {
         if (settings != sort)
             arrange(settings);

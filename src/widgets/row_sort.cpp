@@ -1,75 +1,92 @@
 #include "widgets/row_sort.h"
 
-#include "widgets/text_arena.h"
+#include "widgets/keyed_slots.h"
 
 #include <algorithm>
-#include <cstring>
-#include <string_view>
+#include <string>
 
 namespace vellora {
 
 namespace {
 
-/// A row's key, which decides most comparisons by its first four units.
-struct SortItem {
-    std::uint64_t head;
-    const char16_t* key;
-    std::uint32_t length;
-    std::uint32_t slot;
-
-    std::u16string_view text() const { return {key, length}; }
-    bool operator<(const SortItem& other) const {
-        return head != other.head ? head < other.head : text() < other.text();
-    }
-};
-
-std::uint64_t first_units(std::u16string_view key) {
-    std::uint64_t head = 0;
-    for (std::size_t i = 0; i < 4; ++i)
-        head = head << 16 | (i < key.size() ? key[i] : 0);
-    return head;
+std::u16string key_of(const RowStore& rows, std::uint32_t slot, const SortBy& by,
+                      const TextCompare& compare) {
+    return compare.sort_key(cell_text(rows.table().at(slot), by.column));
 }
 
-/// Holds the keys of one sort.
-class KeyMaker {
-public:
-    explicit KeyMaker(const TextCompare& compare) : compare_(compare) {}
-
-    SortItem make(std::uint32_t slot, std::u16string_view text) {
-        const std::u16string key = compare_.sort_key(text);
-        const std::size_t bytes = key.size() * sizeof(char16_t);
-        std::byte* copy = keys_.allocate(bytes);
-        std::memcpy(copy, key.data(), bytes);
-        return {first_units(key), reinterpret_cast<const char16_t*>(copy),
-                static_cast<std::uint32_t>(key.size()), slot};
-    }
-
-private:
-    const TextCompare& compare_;
-    TextArena keys_;
+/// The rows in their present order: those that changed apart from those that did not.
+struct Parted {
+    struct Changed {
+        std::uint32_t slot;
+        std::size_t kept_before; // how many unchanged rows stand before it
+    };
+    std::vector<std::uint32_t> kept;
+    std::vector<Changed> changed;
 };
 
-std::vector<SortItem> items_of(const RowStore& rows, std::int32_t column, KeyMaker& keys) {
-    std::vector<SortItem> items;
-    items.reserve(rows.order().size());
+Parted parted(const RowStore& rows, const RowChanges& changes) {
+    Parted parts;
+    parts.kept.reserve(rows.order().size());
     for (const std::uint32_t slot : rows.order())
-        items.push_back(keys.make(slot, cell_text(rows.table().at(slot), column)));
-    return items;
+        if (changes.has(slot))
+            parts.changed.push_back({slot, parts.kept.size()});
+        else
+            parts.kept.push_back(slot);
+    return parts;
+}
+
+/// How many of the unchanged rows come before a changed one: those with a lesser key, and those with the same
+/// key that stand before it now.
+std::size_t place_among(const RowStore& rows, const Parted& parts, const Parted::Changed& row,
+                        std::u16string_view key, const SortBy& by, const TextCompare& compare) {
+    std::size_t first = 0;
+    std::size_t last = parts.kept.size();
+    while (first < last) {
+        const std::size_t middle = first + (last - first) / 2;
+        const int order = key_of(rows, parts.kept[middle], by, compare).compare(key);
+        const bool before = order == 0 ? middle < row.kept_before : (order < 0) != by.descending;
+        (before ? first : last) = before ? middle + 1 : middle;
+    }
+    return first;
 }
 
 } // namespace
 
-std::vector<std::uint32_t> sorted_order(const RowStore& rows, std::int32_t column, bool descending,
-                                        const TextCompare& compare) {
-    KeyMaker keys(compare);
-    std::vector<SortItem> items = items_of(rows, column, keys);
-    if (descending)
-        std::stable_sort(items.begin(), items.end(), [](const auto& a, const auto& b) { return b < a; });
-    else
-        std::stable_sort(items.begin(), items.end());
-    std::vector<std::uint32_t> order(items.size());
-    std::transform(items.begin(), items.end(), order.begin(), [](const SortItem& item) { return item.slot; });
+std::vector<std::uint32_t> sorted_order(const RowStore& rows, const SortBy& by, const TextCompare& compare) {
+    KeyedSlots keys;
+    keys.reserve(rows.order().size());
+    for (const std::uint32_t slot : rows.order())
+        keys.add(slot, key_of(rows, slot, by, compare));
+    keys.sort(by.descending);
+    std::vector<std::uint32_t> order;
+    order.reserve(rows.order().size());
+    for (const KeyedSlots::Item& item : keys.items())
+        order.push_back(item.slot);
     return order;
+}
+
+MendedOrder mended_order(const RowStore& rows, const RowChanges& changes, const SortBy& by,
+                         const TextCompare& compare) {
+    const Parted parts = parted(rows, changes);
+    KeyedSlots keys;
+    for (std::uint32_t i = 0; i < parts.changed.size(); ++i)
+        keys.add(i, key_of(rows, parts.changed[i].slot, by, compare));
+    keys.sort(by.descending);
+    MendedOrder mended;
+    mended.order.reserve(rows.order().size());
+    mended.moved.reserve(parts.changed.size());
+    auto kept = parts.kept.begin();
+    for (const KeyedSlots::Item& item : keys.items()) {
+        const Parted::Changed& row = parts.changed[item.slot];
+        const auto place = parts.kept.begin() + static_cast<std::ptrdiff_t>(
+                                                    place_among(rows, parts, row, item.key(), by, compare));
+        mended.order.insert(mended.order.end(), kept, place);
+        kept = place;
+        mended.moved.push_back(static_cast<std::int32_t>(mended.order.size()));
+        mended.order.push_back(row.slot);
+    }
+    mended.order.insert(mended.order.end(), kept, parts.kept.end());
+    return mended;
 }
 
 } // namespace vellora

@@ -13,6 +13,8 @@ void RowStore::insert(std::int32_t row) {
         throw;
     }
     table_.at(slot).position = row;
+    if (row + 1 < count())
+        shifted(1);
     changed(row);
 }
 
@@ -22,6 +24,8 @@ void RowStore::remove(std::int32_t row) noexcept {
     gone.tool_tips.release(tool_tips_);
     table_.release(slot(row));
     order_.erase(order_.begin() + row);
+    if (row < count())
+        shifted(1);
     ++revision_;
     if (order_.empty())
         return clear();
@@ -34,19 +38,44 @@ void RowStore::clear() noexcept {
     table_.clear();
     texts_.clear();
     tool_tips_.clear();
+    shifts_ = 0;
+    most_cells_ = 1;
     ++revision_;
 }
 
 std::int32_t RowStore::position(std::uint32_t slot_of_row) const {
-    const RowRecord& record = table_.at(slot_of_row);
-    if (record.position >= count() || slot(record.position) != slot_of_row)
+    std::int32_t& noted = table_.at(slot_of_row).position;
+    if (noted < count() && slot(noted) == slot_of_row)
+        return noted;
+    if (shifts_ >= unknown_shifts)
         renumber();
-    return record.position;
+    else
+        noted = found_near(slot_of_row, noted);
+    return noted;
+}
+
+std::int32_t RowStore::found_near(std::uint32_t slot_of_row, std::int32_t row) const {
+    const auto shifts = static_cast<std::int32_t>(shifts_);
+    const auto first = order_.begin() + std::clamp(row - shifts, std::int32_t{0}, count());
+    return static_cast<std::int32_t>(std::find(first, order_.end(), slot_of_row) - order_.begin());
 }
 
 void RowStore::renumber() const {
     for (std::int32_t row = 0; row < count(); ++row)
         record(row).position = row;
+    shifts_ = 0;
+}
+
+void RowStore::set_order(std::vector<std::uint32_t> order) noexcept {
+    order_.swap(order);
+    shifts_ = unknown_shifts;
+}
+
+void RowStore::set_order(std::vector<std::uint32_t> order, std::span<const std::int32_t> moved) noexcept {
+    order_.swap(order);
+    for (const std::int32_t row : moved)
+        record(row).position = row;
+    shifted(moved.size());
 }
 
 void RowStore::set_text(std::int32_t row, std::uint32_t cell, std::u16string_view text) {
@@ -56,7 +85,9 @@ void RowStore::set_text(std::int32_t row, std::uint32_t cell, std::u16string_vie
 }
 
 void RowStore::add_text(std::int32_t row, std::u16string_view text) {
-    record(row).texts.append(text, texts_);
+    PackedTexts& texts = record(row).texts;
+    texts.append(text, texts_);
+    most_cells_ = std::max(most_cells_, texts.count());
     changed(row);
     tidy(texts_, &RowRecord::texts);
 }

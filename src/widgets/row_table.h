@@ -31,6 +31,8 @@ public:
     void clear() noexcept;
 
     RowRecord& at(std::uint32_t slot) const { return slabs_[slot / slab_rows]->records[slot % slab_rows]; }
+    /// Of a slot that was handed out since the last clear.
+    bool in_use(std::uint32_t slot) const { return at(slot).generation != 0; }
     /// Null when the slot holds another row or none.
     RowRecord* find(std::uint32_t slot, std::uint32_t generation) const;
 
