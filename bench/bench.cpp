@@ -3,6 +3,8 @@
 #include "native_list.h"
 #include "report.h"
 #include "sample_rows.h"
+#include "search_bench.h"
+#include "sort_bench.h"
 #include "stopwatch.h"
 #include "vellora_list.h"
 
@@ -145,6 +147,11 @@ int run() {
     bench.linearity();
     bench.clearing();
     bench.reading();
+    measure_completing(bench.report);
+    measure_finding(bench.report, bench.list, bench.native);
+    measure_adding_unknown(bench.report, bench.list);
+    measure_sorting(bench.report);
+    measure_looking_up(bench.report, bench.list, bench.short_list, bench.rows);
     bench.opening(false);
     bench.opening(true);
     std::printf("\n%s\n", bench.report.all_met() ? "All bounds are met." : "Not all bounds are met.");

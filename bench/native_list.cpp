@@ -71,4 +71,27 @@ std::size_t NativeList::read(int count) {
     return units;
 }
 
+int NativeList::find(const std::wstring& text, bool partial) {
+    LVFINDINFOW wanted{};
+    wanted.flags = LVFI_STRING | (partial ? LVFI_PARTIAL : 0U);
+    wanted.psz = text.c_str();
+    return static_cast<int>(
+        SendMessageW(window_, LVM_FINDITEMW, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&wanted)));
+}
+
+int NativeList::find_in_column(const std::wstring& text, int column) {
+    const auto count = static_cast<int>(SendMessageW(window_, LVM_GETITEMCOUNT, 0, 0));
+    std::array<wchar_t, 260> cell;
+    for (int row = 0; row < count; ++row) {
+        LVITEMW item{};
+        item.iSubItem = column;
+        item.pszText = cell.data();
+        item.cchTextMax = static_cast<int>(cell.size());
+        SendMessageW(window_, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+        if (text == cell.data())
+            return row;
+    }
+    return -1;
+}
+
 } // namespace vellora::bench

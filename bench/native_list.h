@@ -19,6 +19,10 @@ public:
     void clear();
     /// Reads each text of the first rows; the number of units read.
     std::size_t read(int count);
+    /// The first row whose text equals or, `partial`, begins with this one; -1 for none.
+    int find(const std::wstring& text, bool partial);
+    /// The first row with this text in a further column, which is read row by row; -1 for none.
+    int find_in_column(const std::wstring& text, int column);
 
 private:
     void set_text(int row, int column, std::wstring& text);

@@ -19,6 +19,11 @@ void Report::compare(const std::string& what, double ours, double reference, con
     std::fflush(stdout);
 }
 
+void Report::figure(const std::string& what, double figure, const std::string& unit) {
+    std::printf("%-42s %12.1f %-2s\n", what.c_str(), figure, unit.c_str());
+    std::fflush(stdout);
+}
+
 void Report::limit(const std::string& what, double figure, const std::string& unit, double most) {
     std::printf("%-42s %12.1f %-2s %24s", what.c_str(), figure, unit.c_str(), "");
     verdict(figure, most);

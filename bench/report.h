@@ -13,6 +13,8 @@ public:
     /// Both in the same unit. The bound is the largest ratio that is allowed.
     void compare(const std::string& what, double ours, double reference, const std::string& unit,
                  std::optional<double> largest_ratio = {});
+    /// A figure that has no bound.
+    void figure(const std::string& what, double figure, const std::string& unit);
     /// A figure with a bound of its own.
     void limit(const std::string& what, double figure, const std::string& unit, double most);
 

@@ -79,6 +79,25 @@ std::size_t VelloraList::read_by_dispatch(short count) {
     return units;
 }
 
+long VelloraList::find(const std::wstring& text, short column, bool partial) {
+    const test::Variant target(text);
+    long row = 0;
+    check(vellora_->FindItem(target.get(), column, 1, partial ? vlPartialWord : vlWholeWord, &row));
+    return row;
+}
+
+long VelloraList::new_index() {
+    long row = 0;
+    check(vellora_->get_NewIndex(&row));
+    return row;
+}
+
+long VelloraList::list_index() {
+    long row = 0;
+    check(vellora_->get_ListIndex(&row));
+    return row;
+}
+
 void VelloraList::open_and_close() {
     check(vellora_->ShowList());
     container_.pump();

@@ -20,11 +20,18 @@ public:
     VelloraList(test::Container& container, const std::wstring& name, int top);
 
     void add(const SampleRows& rows, int count);
+    void add(const VARIANT& row) { check(vellora_->AddItem(row, -1)); }
     void add_by_dispatch(const SampleRows& rows, int count);
     void clear() { check(vellora_->Clear()); }
     /// Reads each text of the first rows; the number of units read.
     std::size_t read(short count);
     std::size_t read_by_dispatch(short count);
+
+    /// 1-based column, -1 for any.
+    long find(const std::wstring& text, short column, bool partial);
+    long new_index();
+    long list_index();
+    void select(long row) { check(vellora_->put_ListIndex(row)); }
 
     void auto_size(bool on) { check(vellora_->put_AutoSize(on ? vlContents : vlNone)); }
     /// Opens the list, lets it paint, and closes it.
