@@ -37,6 +37,42 @@ TEST_F(LocaleTextCompareTest, IgnoresCase) {
     EXPECT_NE(compare.fold(u"a"), compare.fold(u"b"));
 }
 
+TEST_F(LocaleTextCompareTest, FoldsEveryScriptThatHasCase) {
+    EXPECT_EQ(compare.fold(u"\u00C9\u00D6\u0178"), u"\u00E9\u00F6\u00FF");
+    EXPECT_EQ(compare.fold(u"\u0416\u0401"), u"\u0436\u0451");
+    EXPECT_EQ(compare.fold(u"\u03A3\u0386"), u"\u03C3\u03AC");
+    EXPECT_EQ(compare.fold(u"\u0531\uFF21\u01C4"), u"\u0561\uFF41\u01C6");
+}
+
+TEST_F(LocaleTextCompareTest, FoldsNothingIntoAnotherLetter) {
+    EXPECT_EQ(compare.fold(u"\u03C2"), u"\u03C2");
+    EXPECT_NE(compare.fold(u"\u00DF"), compare.fold(u"SS").substr(0, 1));
+    EXPECT_NE(compare.fold(u"E"), compare.fold(u"\u00C9"));
+    EXPECT_NE(compare.fold(u"\u0131"), compare.fold(u"i"));
+}
+
+// An index compares texts with folded beginnings, so the two must agree wherever a text is cut.
+TEST_F(LocaleTextCompareTest, FoldsEachUnitByItself) {
+    std::u16string every;
+    for (unsigned unit = 0; unit < 0x10000; ++unit)
+        every.push_back(static_cast<char16_t>(unit));
+    const std::u16string folded = compare.fold(every);
+    EXPECT_EQ(compare.fold(folded), folded);
+    for (std::size_t i = 0; i < every.size(); ++i)
+        ASSERT_EQ(compare.fold(every.substr(i, 1))[0], folded[i]) << std::hex << i;
+}
+
+TEST_F(LocaleTextCompareTest, KeepsTheFirstUnitOfAPairAndUnitsThatAreNone) {
+    for (const std::u16string_view pair : {u"\U00010400", u"\U0001E900", u"\U000104B0", u"\U0001F600"}) {
+        const std::u16string folded = compare.fold(pair);
+        EXPECT_EQ(folded[0], pair[0]);
+        EXPECT_TRUE(folded[1] >= 0xDC00 && folded[1] < 0xE000);
+    }
+    EXPECT_EQ(compare.fold(u"\U0001F600"), u"\U0001F600");
+    const std::u16string halves{char16_t{0xDC00}, u'A', char16_t{0xD801}};
+    EXPECT_EQ(compare.fold(halves), (std::u16string{char16_t{0xDC00}, u'a', char16_t{0xD801}}));
+}
+
 TEST_F(LocaleTextCompareTest, FoldingKeepsTheLength) {
     for (const std::u16string_view text : {u"", u"Stra\u00DFe", u"\u0130stanbul", u"\uFB01n", u"\U0001D400x"})
         EXPECT_EQ(text.size(), compare.fold(text).size());
