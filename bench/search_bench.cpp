@@ -88,6 +88,15 @@ void measure_finding(Report& report, VelloraList& list, NativeList& native) {
     compare("second column, the last row", L"Place 099999", 2, false);
     compare("third column, none", L"none", 3, false);
     compare("third column, partial, none", L"Code", 3, true);
+    const double theirs = median_time(3, nothing, [&] { native.find(L"none", false); });
+    const double ours = time_of([&] {
+        for (short row = 0; row < searches; ++row) {
+            list.write(static_cast<short>(row * 30), 3,
+                       samples.texts(static_cast<std::size_t>(row))[2] + L"x");
+            list.find(L"none", 3, false);
+        }
+    });
+    report.compare("after a change of one row each time", ours / searches, theirs, "ms", 0.01);
     list.clear();
     native.clear();
 }

@@ -79,6 +79,10 @@ std::size_t VelloraList::read_by_dispatch(short count) {
     return units;
 }
 
+void VelloraList::write(short row, short column, const std::wstring& text) {
+    check(vellora_->put_List(row, column, test::Variant(text).get()));
+}
+
 long VelloraList::find(const std::wstring& text, short column, bool partial) {
     const test::Variant target(text);
     long row = 0;

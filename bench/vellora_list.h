@@ -27,6 +27,7 @@ public:
     std::size_t read(short count);
     std::size_t read_by_dispatch(short count);
 
+    void write(short row, short column, const std::wstring& text);
     /// 1-based column, -1 for any.
     long find(const std::wstring& text, short column, bool partial);
     long new_index();
