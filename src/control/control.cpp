@@ -21,7 +21,7 @@ Control::Control(const ControlEnvironment& environment)
       text_field_(core_, object_, selection_, drop_down_),
       persistence_(core_, {object_, appearance_, text_properties_, columns_, placement_, check_boxes_,
                            selection_}),
-      accessibility_(core_, object_, drop_down_) {
+      accessibility_(core_, object_, drop_down_), about_(environment.library) {
     object_.Initialize();
     MsgHandler_.AddMessage(message::kill_focus);
     MsgHandler_.AddMessage(message::notify);

@@ -5,6 +5,7 @@
 #include "columns/column_auto_size.h"
 #include "columns/column_order.h"
 #include "columns/column_set.h"
+#include "control/about.h"
 #include "control/accessibility.h"
 #include "control/appearance.h"
 #include "control/control_object.h"
@@ -41,6 +42,7 @@ struct ControlEnvironment {
     User32& user32;
     FormWatch& form_watch;
     modMessageHandler& message_module;
+    Library& library;
 };
 
 /// Comes up initialised; then either `object().InitProperties()` runs or its properties are loaded. Ending it closes
@@ -70,6 +72,7 @@ public:
     TextProperties& text_properties() { return text_properties_; }
     Persistence& persistence() { return persistence_; }
     Accessibility& accessibility() { return accessibility_; }
+    About& about() { return about_; }
 
 private:
     class Wiring;
@@ -98,6 +101,7 @@ private:
     TextField text_field_;
     Persistence persistence_;
     Accessibility accessibility_;
+    About about_;
 };
 
 } // namespace vellora

@@ -3,7 +3,6 @@
 #include "com/bstr.h"
 #include "control/control.h"
 #include "server/host_objects.h"
-#include "server/unbuilt_members.h"
 
 namespace vellora::server {
 
@@ -107,12 +106,12 @@ STDMETHODIMP DualVellora::put_GridLines(VARIANT_BOOL value) noexcept {
     return run([&] { control_.appearance().put_GridLines(value != VARIANT_FALSE); });
 }
 
-STDMETHODIMP DualVellora::get_Version(BSTR*) noexcept {
-    return run([] { raise_unbuilt(u"get_Version"); });
+STDMETHODIMP DualVellora::get_Version(BSTR* result) noexcept {
+    return answer(result, [&] { return control_.about().Version(); });
 }
 
 STDMETHODIMP DualVellora::About() noexcept {
-    return run([] { raise_unbuilt(u"About"); });
+    return run([&] { control_.about().ShowAboutBox(); });
 }
 
 } // namespace vellora::server

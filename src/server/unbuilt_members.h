@@ -8,7 +8,7 @@ namespace vellora::server {
 
 /// By their names in the function table.
 inline constexpr std::u16string_view unbuilt_members[] = {
-    u"get_Version", u"About", u"get_HeaderIcons", u"putref_HeaderIcons", u"get_HeaderIcon", u"put_HeaderIcon",
+    u"get_HeaderIcons", u"putref_HeaderIcons", u"get_HeaderIcon", u"put_HeaderIcon",
 };
 
 /// Error 445. The name is for the interface checker, which holds it against the list.

@@ -36,8 +36,8 @@ bool modified() { return GetKeyState(VK_CONTROL) < 0 || GetKeyState(VK_MENU) < 0
 
 VelloraClient::VelloraClient(com::ControlHost& host)
     : host_(host), peers_(host.parking_window(), compare_, this), events_(host), site_(host),
-      control_({peers_.references(), peers_.surface, site_, events_, peers_.user32, peers_.form_watch,
-                message_module()}),
+      library_(host), control_({peers_.references(), peers_.surface, site_, events_, peers_.user32,
+                                peers_.form_watch, message_module(), library_}),
       dual_(host, control_) {
     peers_.surface.set_host(this);
 }

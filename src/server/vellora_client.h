@@ -7,6 +7,7 @@
 #include "server/dual.h"
 #include "server/event_source.h"
 #include "server/host_site.h"
+#include "server/own_library.h"
 #include "widgets/win32/floating_window.h"
 #include "widgets/win32/locale_text_compare.h"
 
@@ -50,6 +51,7 @@ private:
     ConstituentPeers peers_;
     EventSource events_;
     HostSite site_;
+    OwnLibrary library_;
     Control control_;
     DualVellora dual_;
 };

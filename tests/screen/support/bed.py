@@ -88,8 +88,15 @@ class FormHost:
         return answer["result"]
 
     def do(self, command, **arguments):
+        self.begin(command, **arguments)
+        return self._read()
+
+    def begin(self, command, **arguments):
+        """Sends a command that a modal box holds up. Others may be done meanwhile; `finish` gives its answer."""
         self.process.stdin.write(json.dumps({"do": command, **arguments}) + "\n")
         self.process.stdin.flush()
+
+    def finish(self):
         return self._read()
 
     def alive(self):

@@ -25,6 +25,13 @@ long ask(HWND window, UINT message, WPARAM wparam = 0, LPARAM lparam = 0) {
     return static_cast<long>(SendMessageW(window, message, wparam, lparam));
 }
 
+// The modal box over the form, 0 when none stands there.
+HWND modal_box(HostForm& host) {
+    HWND form = host.form().frame();
+    HWND box = GetLastActivePopup(form);
+    return box != form && !IsWindowEnabled(form) ? box : nullptr;
+}
+
 RECT client_rect(HWND window) {
     RECT rect{};
     GetClientRect(window, &rect);
@@ -43,8 +50,10 @@ RECT combo_button(HWND combo) {
 void redraw_all(HostForm& host, UINT how) {
     std::vector<HWND> windows = floating_windows();
     windows.push_back(host.form().frame());
+    windows.push_back(modal_box(host));
     for (HWND window : windows)
-        RedrawWindow(window, nullptr, nullptr, how | RDW_UPDATENOW | RDW_ALLCHILDREN);
+        if (window)
+            RedrawWindow(window, nullptr, nullptr, how | RDW_UPDATENOW | RDW_ALLCHILDREN);
     GdiFlush();
 }
 
@@ -69,6 +78,8 @@ Json report_rect(HostForm& host, const Json& command) {
         {"button", [&] { return screen_rect(drop_button(window())); }},
         {"edit", [&] { return screen_rect(host.edit(command.must("edit").text())); }},
         {"combo_button", [&] { return combo_button(host.edit(command.must("edit").text())); }},
+        {"box", [&] { return screen_rect(modal_box(host)); }},
+        {"box_ok", [&] { return screen_rect(GetDlgItem(modal_box(host), IDOK)); }},
         {"floating", [&] { return screen_rect(floating_window()); }},
         {"list", [&] { return screen_rect(open_list()); }},
         {"row", [&] { return open_list() ? row_rect(open_list(), index_of(command)) : RECT{}; }},

@@ -80,7 +80,8 @@ void HeadlessControl::create() {
                            events,
                            user32,
                            form_watch,
-                           world_.message_module});
+                           world_.message_module,
+                           library});
 }
 
 void HeadlessControl::add_rows(int count) {

@@ -6,6 +6,7 @@
 #include "support/headless/event_recorder.h"
 #include "support/headless/form_watch.h"
 #include "support/headless/frame.h"
+#include "support/headless/library.h"
 #include "support/headless/list_view.h"
 #include "support/headless/site.h"
 #include "support/headless/surface.h"
@@ -64,6 +65,7 @@ public:
     Accessibility& accessibility() { return control_->accessibility(); }
     TextField& text_field() { return control_->text_field(); }
     TextProperties& text_properties() { return control_->text_properties(); }
+    About& about() { return control_->about(); }
 
     Journal& journal() { return world_.journal; }
     Desktop& desktop() { return world_.desktop; }
@@ -96,6 +98,7 @@ public:
     std::array<HeadlessLabel, 2> grip;
     EventRecorder events;
     HeadlessFormWatch form_watch;
+    HeadlessLibrary library;
 
 private:
     HeadlessControl(std::unique_ptr<World> own, World* world, Mode mode, const std::string& prefix,
