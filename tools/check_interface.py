@@ -132,25 +132,6 @@ def every_accessor_has_a_body(interface: Interface) -> Iterator[str]:
             yield f"src/server/{name}: {function} stands there twice"
 
 
-@check
-def members_still_to_be_built(interface: Interface) -> Iterator[str]:
-    listed = set(re.findall(r'u"(\w+)"', source(SERVER / "unbuilt_members.h")))
-    used = {name for members in shim_bodies().values() for _, body in members
-            for name in re.findall(r'raise_unbuilt\(u"(\w+)"', body)}
-    tested_path = ROOT / "tests/com/unbuilt_members.txt"
-    tested = set(tested_path.read_text(encoding="utf-8").split()) if tested_path.exists() else set()
-    known = {a.function for a in interface.accessors}
-    yield from difference("dual_*.cpp raising the error of an unbuilt member", listed, used)
-    yield from difference("tests/com/unbuilt_members.txt", listed, tested)
-    for name in sorted(listed - known):
-        yield f"src/server/unbuilt_members.h: there is no member {name}"
-    for members in shim_bodies().values():
-        for function, body in members:
-            for name in re.findall(r'raise_unbuilt\(u"(\w+)"', body):
-                if name != function:
-                    yield f"{function} says that {name} is unbuilt"
-
-
 # ---- The portable code that repeats values of it ---------------------------------------------------------------------
 
 

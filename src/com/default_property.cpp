@@ -19,10 +19,17 @@ ComPtr<IDispatch> dispatch_of(const VARIANT& value) {
     return dispatch;
 }
 
-HRESULT get(IDispatch* object, DISPID id, Variant& out, EXCEPINFO* exception) {
-    DISPPARAMS none = {};
-    return object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET | DISPATCH_METHOD, &none,
-                          out.put(), exception, nullptr);
+HRESULT get(IDispatch* object, DISPID id, Variant& out, EXCEPINFO* exception, DISPPARAMS arguments = {}) {
+    return object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET | DISPATCH_METHOD,
+                          &arguments, out.put(), exception, nullptr);
+}
+
+std::optional<DISPID> identifier(IDispatch* object, const wchar_t* name) noexcept {
+    DISPID id = DISPID_UNKNOWN;
+    auto text = const_cast<LPOLESTR>(name);
+    if (!object || FAILED(object->GetIDsOfNames(IID_NULL, &text, 1, LOCALE_USER_DEFAULT, &id)))
+        return std::nullopt;
+    return id;
 }
 
 [[noreturn]] void raise_exception_of_object(EXCEPINFO& exception) {
@@ -71,11 +78,21 @@ std::optional<Variant> read_property(IDispatch* object, DISPID id) noexcept {
 }
 
 std::optional<Variant> read_property(IDispatch* object, const wchar_t* name) noexcept {
-    DISPID id = DISPID_UNKNOWN;
-    auto text = const_cast<LPOLESTR>(name);
-    if (!object || FAILED(object->GetIDsOfNames(IID_NULL, &text, 1, LOCALE_USER_DEFAULT, &id)))
+    const auto id = identifier(object, name);
+    return id ? read_property(object, *id) : std::nullopt;
+}
+
+std::optional<Variant> read_property(IDispatch* object, const wchar_t* name, const Variant& index) noexcept {
+    const auto id = identifier(object, name);
+    VARIANT argument = index.get();
+    Variant value;
+    if (!id || FAILED(get(object, *id, value, nullptr, {&argument, nullptr, 1, 0})))
         return std::nullopt;
-    return read_property(object, id);
+    return value;
+}
+
+bool has_member(IDispatch* object, const wchar_t* name) noexcept {
+    return identifier(object, name).has_value();
 }
 
 } // namespace vellora::com

@@ -19,5 +19,9 @@ Variant default_value(const VARIANT& object);
 /// Nothing when the object has no such property or does not give it.
 std::optional<Variant> read_property(IDispatch* object, DISPID id) noexcept;
 std::optional<Variant> read_property(IDispatch* object, const wchar_t* name) noexcept;
+/// Of a property with an index.
+std::optional<Variant> read_property(IDispatch* object, const wchar_t* name, const Variant& index) noexcept;
+
+bool has_member(IDispatch* object, const wchar_t* name) noexcept;
 
 } // namespace vellora::com

@@ -10,7 +10,7 @@ Control::Control(const ControlEnvironment& environment)
             environment.events,       environment.user32,  {}},
       text_properties_(core_), appearance_(core_), object_(core_, text_properties_, appearance_),
       layout_(core_), columns_(core_), column_sizes_(core_, columns_),
-      column_order_(core_, columns_), items_(core_, object_, columns_),
+      column_order_(core_, columns_), header_icons_(core_, columns_), items_(core_, object_, columns_),
       selection_(core_, object_, drop_down_), check_boxes_(core_), sort_and_search_(core_),
       placement_(core_), resize_frame_(core_), resize_grip_(core_, resize_frame_),
       list_messages_(core_, environment.message_module, drop_down_),
@@ -19,8 +19,8 @@ Control::Control(const ControlEnvironment& environment)
       floating_window_(core_, placement_, resize_frame_, selection_, MsgHandler_),
       drop_down_(core_, placement_, columns_, column_sizes_, floating_window_, environment.form_watch),
       text_field_(core_, object_, selection_, drop_down_),
-      persistence_(core_, {object_, appearance_, text_properties_, columns_, placement_, check_boxes_,
-                           selection_}),
+      persistence_(core_, {object_, appearance_, text_properties_, columns_, header_icons_, placement_,
+                           check_boxes_, selection_}),
       accessibility_(core_, object_, drop_down_), about_(environment.library) {
     object_.Initialize();
     MsgHandler_.AddMessage(message::kill_focus);

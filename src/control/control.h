@@ -5,6 +5,7 @@
 #include "columns/column_auto_size.h"
 #include "columns/column_order.h"
 #include "columns/column_set.h"
+#include "columns/header_icons.h"
 #include "control/about.h"
 #include "control/accessibility.h"
 #include "control/appearance.h"
@@ -65,6 +66,7 @@ public:
     ColumnSet& columns() { return columns_; }
     ColumnAutoSize& column_sizes() { return column_sizes_; }
     ColumnOrder& column_order() { return column_order_; }
+    HeaderIcons& header_icons() { return header_icons_; }
     Placement& placement() { return placement_; }
     DropDown& drop_down() { return drop_down_; }
     ResizeGrip& resize_grip() { return resize_grip_; }
@@ -86,6 +88,7 @@ private:
     ColumnSet columns_;
     ColumnAutoSize column_sizes_;
     ColumnOrder column_order_;
+    HeaderIcons header_icons_;
     ItemStore items_;
     Selection selection_;
     CheckBoxes check_boxes_;

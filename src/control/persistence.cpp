@@ -1,6 +1,7 @@
 #include "control/persistence.h"
 
 #include "columns/column_set.h"
+#include "columns/header_icons.h"
 #include "control/appearance.h"
 #include "control/control_object.h"
 #include "control/saved_properties.h"
@@ -112,14 +113,21 @@ void Persistence::read_text_look(PropertyBag& bag) {
 // Hidden and locked go straight into the arrays, as their setters do nothing in a designer or while loading.
 void Persistence::read_columns(PropertyBag& bag) {
     ControlState& state = core_.state;
+    setters_.header_icons.putref_Icons(read<ImageListRef>(bag, core_, u"HeaderIcons"));
     state.miColumns = read<std::int16_t>(bag, core_, u"Columns");
     for (std::int32_t column = 1; column <= state.miColumns; ++column) {
         const std::size_t slot = checked_slot(column, maximum_columns);
         state.masColumnHeader[slot] = read_column<std::u16string>(bag, u"ColumnHeader", column);
         state.masngColumnWidth[slot] = read_column<float>(bag, u"ColumnWidth", column);
+        read_header_icon(bag, column);
         state.mabColumnHidden[slot] = read_column<bool>(bag, u"ColumnHidden", column);
         state.mabColumnLocked[slot] = read_column<bool>(bag, u"ColumnLocked", column);
     }
+}
+
+void Persistence::read_header_icon(PropertyBag& bag, std::int32_t column) {
+    setters_.header_icons.put_HeaderIcon(to_integer(column),
+                                         read_column<std::u16string>(bag, u"HeaderIcon", column));
 }
 
 void Persistence::read_appearance(PropertyBag& bag) {
@@ -148,6 +156,9 @@ void Persistence::read_list_look(PropertyBag& bag) {
     setters_.text_properties.put_RightMargin(read<std::int32_t>(bag, core_, u"RightMargin"));
     setters_.columns.put_Columns(core_.state.miColumns);
     setters_.columns.put_HideColumnHeaders(read<bool>(bag, core_, u"HideColumnHeaders"));
+    for (std::int32_t column = 1; column <= core_.state.miColumns; ++column) {
+        read_header_icon(bag, column);
+    }
 }
 
 // These fields were read without their setters; a saved form expects its list to act on them.

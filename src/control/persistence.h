@@ -10,6 +10,7 @@ class Appearance;
 class CheckBoxes;
 class ColumnSet;
 class ControlObject;
+class HeaderIcons;
 class Placement;
 class Selection;
 class TextProperties;
@@ -21,6 +22,7 @@ public:
         Appearance& appearance;
         TextProperties& text_properties;
         ColumnSet& columns;
+        HeaderIcons& header_icons;
         Placement& placement;
         CheckBoxes& check_boxes;
         Selection& selection;
@@ -37,6 +39,7 @@ private:
     void read_fields(PropertyBag& bag);
     void read_text_look(PropertyBag& bag);
     void read_columns(PropertyBag& bag);
+    void read_header_icon(PropertyBag& bag, std::int32_t column);
     void read_appearance(PropertyBag& bag);
     void read_text(PropertyBag& bag);
     void read_list_look(PropertyBag& bag);

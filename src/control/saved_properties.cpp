@@ -20,6 +20,7 @@ SavedValue single_0(const ControlCore&) { return 0.0F; }
 SavedValue single_8(const ControlCore&) { return 8.0F; }
 SavedValue no_text(const ControlCore&) { return std::u16string(); }
 SavedValue no_picture(const ControlCore&) { return PictureRef(); }
+SavedValue no_image_list(const ControlCore&) { return ImageListRef(); }
 SavedValue ambient_font(const ControlCore& core) { return core.site.ambient_font(); }
 
 template <auto Field> SavedValue field(const ControlCore& core) { return core.state.*Field; }
@@ -32,6 +33,13 @@ SavedValue text(const ControlCore& core) { return core.live_text_box().text(); }
 SavedValue text_fore_color(const ControlCore& core) { return as_long(core.live_text_box().fore_color()); }
 SavedValue text_back_color(const ControlCore& core) { return as_long(core.live_text_box().back_color()); }
 SavedValue picture(const ControlCore& core) { return core.parts.ListView1.picture(); }
+
+// The list view keeps it; a column another program took away has none.
+SavedValue header_icon(const ControlCore& core, std::size_t slot) {
+    const auto column = static_cast<std::int32_t>(slot) + 1;
+    const ListView& list = core.parts.ListView1;
+    return column <= list.header_count() ? list.header_tag(column) : std::u16string();
+}
 
 using S = ControlState;
 constexpr auto no = fixed<false>;
@@ -80,6 +88,7 @@ const std::array after_columns{
     SavedProperty{u"MaxLength", long_0, field<&S::mlMaxLength>},
     SavedProperty{u"LeftMargin", long_0, field<&S::mlLeftMargin>},
     SavedProperty{u"RightMargin", long_0, field<&S::mlRightMargin>},
+    SavedProperty{u"HeaderIcons", no_image_list, field<&S::moHeaderIcons>},
 };
 
 const std::array columns{
@@ -91,6 +100,7 @@ const std::array columns{
                         [](const ControlCore& core, std::size_t slot) -> SavedValue {
                             return core.state.masngColumnWidth[slot];
                         }},
+    SavedColumnProperty{u"HeaderIcon", std::u16string(), header_icon},
     SavedColumnProperty{u"ColumnHidden", false,
                         [](const ControlCore& core, std::size_t slot) -> SavedValue {
                             return core.state.mabColumnHidden[slot];

@@ -3,6 +3,7 @@
 
 #include "runtime/geometry.h"
 #include "widgets/font.h"
+#include "widgets/image_list.h"
 #include "widgets/list_rows.h"
 
 #include <array>
@@ -61,6 +62,7 @@ struct ControlState {
     std::array<bool, maximum_columns> mabColumnLocked{};
     bool mbHideColumnHeaders = false;
     bool mbAllowColumnReorder = false;
+    ImageListRef moHeaderIcons;
     std::int32_t mlAutoSize = 0;
 
     // drop-down

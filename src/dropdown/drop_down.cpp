@@ -76,12 +76,18 @@ void DropDown::show_button_state(int Index) {
 }
 
 void DropDown::open_or_leave() {
-    if (core_.parts.chkDropDown[0]->value() == 1 && !gbListOpen) {
+    if (is_to_open()) {
+        core_.parts.ListView1.renew_header_icons();
+    }
+    // The image list is the host's, whose code may have done anything.
+    if (is_to_open()) {
         subShowListView();
     } else {
         subFocusTextBox();
     }
 }
+
+bool DropDown::is_to_open() const { return core_.parts.chkDropDown[0]->value() == 1 && !gbListOpen; }
 
 // A click that opened nothing, because another list was open or the opening failed, must not leave a pressed button.
 void DropDown::settle_button() {

@@ -44,6 +44,7 @@ public:
 
 private:
     void open_or_leave();
+    bool is_to_open() const;
     void sort_if_dirty();
     void size_columns(Bounds& bounds);
     void show_button_state(int Index);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "widgets/font.h"
+#include "widgets/image_list.h"
 
 #include <cstdint>
 #include <string>
@@ -11,7 +12,8 @@
 
 namespace vellora {
 
-using SavedValue = std::variant<bool, std::int16_t, std::int32_t, float, std::u16string, FontRef, PictureRef>;
+using SavedValue =
+    std::variant<bool, std::int16_t, std::int32_t, float, std::u16string, FontRef, PictureRef, ImageListRef>;
 
 class PropertyBag {
 public:

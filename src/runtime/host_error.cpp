@@ -29,8 +29,8 @@ constexpr std::array standard_texts{
     StandardText{error_number::set_not_supported_at_run_time, u"Property Set can't be executed at run time"},
     StandardText{error_number::set_not_permitted, u"Property Set not permitted"},
     StandardText{error_number::member_not_supported, u"Object doesn't support this property or method"},
-    StandardText{error_number::action_not_supported, u"Object doesn't support this action"},
     StandardText{error_number::index_out_of_bounds, u"Index out of bounds"},
+    StandardText{error_number::element_not_found, u"Element not found"},
 };
 
 std::string ascii(std::u16string_view text) {

@@ -22,9 +22,10 @@ inline constexpr std::int32_t invalid_property_array_index = 381;
 inline constexpr std::int32_t set_not_supported_at_run_time = 382;
 inline constexpr std::int32_t set_not_permitted = 387;
 inline constexpr std::int32_t member_not_supported = 438;
-inline constexpr std::int32_t action_not_supported = 445;
 /// The list view's own: a row, sub-item or column header that does not exist.
 inline constexpr std::int32_t index_out_of_bounds = 35600;
+/// Its own too: a key that is not in the collection.
+inline constexpr std::int32_t element_not_found = 35601;
 /// The control's own object errors: 0x80040000 + 1520 and + 1521.
 inline constexpr std::int32_t invalid_column_index = -2147219984;
 inline constexpr std::int32_t invalid_columns_value = -2147219983;

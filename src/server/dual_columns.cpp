@@ -3,7 +3,7 @@
 #include "com/bstr.h"
 #include "com/variant_view.h"
 #include "control/control.h"
-#include "server/unbuilt_members.h"
+#include "server/host_objects.h"
 
 namespace vellora::server {
 
@@ -83,20 +83,20 @@ STDMETHODIMP DualVellora::put_AllowColumnReorder(VARIANT_BOOL value) noexcept {
     return run([&] { control_.column_order().put_AllowColumnReorder(value != VARIANT_FALSE); });
 }
 
-STDMETHODIMP DualVellora::get_HeaderIcons(IDispatch**) noexcept {
-    return run([] { raise_unbuilt(u"get_HeaderIcons"); });
+STDMETHODIMP DualVellora::get_HeaderIcons(IDispatch** result) noexcept {
+    return answer(result, [&] { return image_list_object(control_.header_icons().Icons()); });
 }
 
-STDMETHODIMP DualVellora::putref_HeaderIcons(IDispatch*) noexcept {
-    return run([] { raise_unbuilt(u"putref_HeaderIcons"); });
+STDMETHODIMP DualVellora::putref_HeaderIcons(IDispatch* value) noexcept {
+    return run([&] { control_.header_icons().putref_Icons(to_image_list(value)); });
 }
 
-STDMETHODIMP DualVellora::get_HeaderIcon(short, BSTR*) noexcept {
-    return run([] { raise_unbuilt(u"get_HeaderIcon"); });
+STDMETHODIMP DualVellora::get_HeaderIcon(short ColumnIndex, BSTR* result) noexcept {
+    return answer(result, [&] { return control_.header_icons().HeaderIcon(ColumnIndex); });
 }
 
-STDMETHODIMP DualVellora::put_HeaderIcon(short, BSTR) noexcept {
-    return run([] { raise_unbuilt(u"put_HeaderIcon"); });
+STDMETHODIMP DualVellora::put_HeaderIcon(short ColumnIndex, BSTR value) noexcept {
+    return run([&] { control_.header_icons().put_HeaderIcon(ColumnIndex, com::bstr_view(value)); });
 }
 
 } // namespace vellora::server

@@ -39,6 +39,10 @@ SavedValue take(const Variant& value, const PictureRef&) {
     return to_picture(object_in<IPictureDisp>(value).Get());
 }
 
+SavedValue take(const Variant& value, const ImageListRef&) {
+    return to_image_list(object_in<IDispatch>(value).Get());
+}
+
 SavedValue take(const Variant& value, bool) {
     return V_BOOL(&com::converted(value.get(), VT_BOOL).get()) != VARIANT_FALSE;
 }
@@ -60,6 +64,10 @@ Variant to_variant(const FontRef& font) { return Variant(com::ComPtr<IUnknown>(f
 
 Variant to_variant(const PictureRef& picture) {
     return Variant(com::ComPtr<IUnknown>(picture_object(picture)).Get());
+}
+
+Variant to_variant(const ImageListRef& image_list) {
+    return Variant(com::ComPtr<IUnknown>(image_list_object(image_list)).Get());
 }
 
 template <typename Plain> Variant to_variant(const Plain& value) { return Variant(value); }

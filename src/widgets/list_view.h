@@ -2,6 +2,7 @@
 #pragma once
 
 #include "widgets/font.h"
+#include "widgets/image_list.h"
 #include "widgets/list_rows.h"
 #include "widgets/widget.h"
 
@@ -49,6 +50,14 @@ public:
     virtual void set_header_width(std::int32_t column, float width) = 0;
     virtual std::u16string header_tag(std::int32_t column) const = 0;
     virtual void set_header_tag(std::int32_t column, std::u16string_view tag) = 0;
+    /// Null for none. The rows get no icons of it. Texts and widths of the headers stay; headers with an icon
+    /// show the image that the new list has under the same key.
+    virtual ImageListRef column_header_icons() const = 0;
+    virtual void set_column_header_icons(const ImageListRef& icons) = 0;
+    /// By its key in the list; an empty key takes the icon away. Error 35601 for a key that is not there.
+    virtual void set_header_icon(std::int32_t column, std::u16string_view key) = 0;
+    /// Takes all images from the list anew, which is the host's and changes without a word.
+    virtual void renew_header_icons() = 0;
 
     virtual bool hide_column_headers() const = 0;
     virtual void set_hide_column_headers(bool hide) = 0;

@@ -45,8 +45,8 @@ TEST(HostError, StandardTexts) {
         {381, u"Invalid property array index"},
         {382, u"Property Set can't be executed at run time"},
         {387, u"Property Set not permitted"},
-        {445, u"Object doesn't support this action"},
         {35600, u"Index out of bounds"},
+        {35601, u"Element not found"},
     };
     for (const auto& [number, text] : texts)
         EXPECT_EQ(standard_description(number), text) << number;

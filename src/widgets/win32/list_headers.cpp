@@ -39,7 +39,8 @@ void ListHeaders::clear() {
 }
 
 void ListHeaders::add(std::u16string_view text, int width) {
-    Header& header = headers_.emplace_back(Header{std::u16string(text), {}});
+    Header& header = headers_.emplace_back();
+    header.text = text;
     LVCOLUMNW column = caption_column(header.text);
     column.mask |= LVCF_WIDTH | LVCF_SUBITEM;
     column.cx = width;
@@ -52,6 +53,38 @@ void ListHeaders::set_text(std::int32_t column, std::u16string_view text) {
     header.text = text;
     const LVCOLUMNW changed = caption_column(header.text);
     window_.native(LVM_SETCOLUMNW, static_cast<WPARAM>(column), &changed);
+    show_image(column);
+}
+
+void ListHeaders::set_icon(std::int32_t column, std::u16string_view key, int image) {
+    Header& header = at(column);
+    header.icon = key;
+    header.image = image;
+    show_image(column);
+}
+
+// The icons are the header's alone: an image list of the rows would make room for icons in them.
+void ListHeaders::draw_icons_from(HIMAGELIST images) {
+    SendMessageW(window_.header(), HDM_SETIMAGELIST, HDSIL_NORMAL, reinterpret_cast<LPARAM>(images));
+}
+
+// The window forgets the image when it gets a caption.
+void ListHeaders::show_image(std::int32_t column) const {
+    const int image = at(column).image;
+    HDITEMW item{};
+    item.mask = HDI_FORMAT | HDI_IMAGE;
+    header_message(HDM_GETITEMW, column, &item);
+    const bool shows = (item.fmt & HDF_IMAGE) != 0;
+    if (shows ? item.iImage == image : image == no_image)
+        return;
+    item.fmt = image == no_image ? item.fmt & ~HDF_IMAGE : item.fmt | HDF_IMAGE;
+    item.iImage = std::max(image, 0);
+    header_message(HDM_SETITEMW, column, &item);
+}
+
+LRESULT ListHeaders::header_message(UINT message, std::int32_t column, HDITEMW* item) const {
+    return SendMessageW(window_.header(), message, static_cast<WPARAM>(column),
+                        reinterpret_cast<LPARAM>(item));
 }
 
 int ListHeaders::width(std::int32_t column) const {
@@ -67,11 +100,12 @@ void ListHeaders::set_width(std::int32_t column, int width) {
 
 void ListHeaders::inserted(std::int32_t column, std::u16string text) {
     const auto place = std::clamp<std::ptrdiff_t>(column, 0, count());
-    headers_.insert(headers_.begin() + place, Header{std::move(text), {}});
+    headers_.emplace(headers_.begin() + place)->text = std::move(text);
 }
 
 void ListHeaders::renamed(std::int32_t column, std::u16string text) {
     at(column).text = std::move(text);
+    show_image(column);
 }
 
 void ListHeaders::removed(std::int32_t column) {

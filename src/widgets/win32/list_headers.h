@@ -1,5 +1,5 @@
-// The column headers of a list: their captions, tags and widths. Columns are counted from 0 here and widths
-// are pixels; a column that does not exist raises 35600.
+// The column headers of a list: their captions, tags, widths and icons. Columns are counted from 0 here and
+// widths are pixels; a column that does not exist raises 35600.
 #pragma once
 
 #include "widgets/win32/list_window.h"
@@ -10,6 +10,9 @@
 #include <vector>
 
 namespace vellora::win32 {
+
+/// Place of the image of a header without icon.
+inline constexpr int no_image = -1;
 
 class ListHeaders {
 public:
@@ -23,6 +26,11 @@ public:
     void set_text(std::int32_t column, std::u16string_view text);
     const std::u16string& tag(std::int32_t column) const { return at(column).tag; }
     void set_tag(std::int32_t column, std::u16string_view tag) { at(column).tag = tag; }
+    /// The key of the column's icon, and its place in the image list the icons are drawn from.
+    const std::u16string& icon(std::int32_t column) const { return at(column).icon; }
+    void set_icon(std::int32_t column, std::u16string_view key, int image);
+    /// The list stays the caller's, who keeps it until another one is given.
+    void draw_icons_from(HIMAGELIST images);
     int width(std::int32_t column) const;
     void set_width(std::int32_t column, int width);
 
@@ -35,9 +43,13 @@ private:
     struct Header {
         std::u16string text;
         std::u16string tag;
+        std::u16string icon;
+        int image = no_image;
     };
     const Header& at(std::int32_t column) const;
     Header& at(std::int32_t column);
+    void show_image(std::int32_t column) const;
+    LRESULT header_message(UINT message, std::int32_t column, HDITEMW* item) const;
 
     const ListWindow& window_;
     std::vector<Header> headers_;

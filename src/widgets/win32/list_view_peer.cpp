@@ -30,7 +30,7 @@ bool is_input(UINT message) {
 
 ListViewPeer::ListViewPeer(HWND surface, FocusTracker& focus, const TextCompare& compare)
     : focus_(focus), window_(surface), rows_(compare), mirror_(window_, rows_), headers_(window_),
-      widths_(window_, headers_, rows_), item_messages_(window_, rows_),
+      header_icons_(window_, headers_), widths_(window_, headers_, rows_), item_messages_(window_, rows_),
       column_messages_(window_, headers_, widths_, mirror_), display_(rows_), appearance_(window_),
       input_(window_, rows_, mirror_), tool_tip_(window_, rows_),
       font_([this](HFONT font) { apply_font(font); }) {
@@ -173,6 +173,15 @@ void ListViewPeer::set_header_width(std::int32_t column, float width) {
 
 void ListViewPeer::set_header_tag(std::int32_t column, std::u16string_view tag) {
     headers_.set_tag(column - 1, tag);
+}
+
+void ListViewPeer::set_column_header_icons(const ImageListRef& icons) {
+    header_icons_.set_list(icons);
+    mirror_.settle_scroll_bars();
+}
+
+void ListViewPeer::set_header_icon(std::int32_t column, std::u16string_view key) {
+    header_icons_.set(column - 1, key);
 }
 
 // ---- Styles ----

@@ -8,6 +8,7 @@
 #include "widgets/win32/list_appearance.h"
 #include "widgets/win32/list_column_messages.h"
 #include "widgets/win32/list_display.h"
+#include "widgets/win32/list_header_icons.h"
 #include "widgets/win32/list_input.h"
 #include "widgets/win32/list_item_messages.h"
 #include "widgets/win32/list_tool_tip.h"
@@ -45,6 +46,11 @@ public:
     std::u16string header_tag(std::int32_t column) const override { return headers_.tag(column - 1); }
     void set_header_tag(std::int32_t column, std::u16string_view tag) override;
 
+    ImageListRef column_header_icons() const override { return header_icons_.list(); }
+    void set_column_header_icons(const ImageListRef& icons) override;
+    void set_header_icon(std::int32_t column, std::u16string_view key) override;
+    void renew_header_icons() override { header_icons_.renew(); }
+
     bool hide_column_headers() const override;
     void set_hide_column_headers(bool hide) override;
     bool allow_column_reorder() const override;
@@ -79,6 +85,7 @@ private:
     ListRows rows_;
     ListRowsMirror mirror_;
     ListHeaders headers_;
+    ListHeaderIcons header_icons_;
     ListColumnWidths widths_;
     ListItemMessages item_messages_;
     ListColumnMessages column_messages_;

@@ -1,5 +1,7 @@
 #include "support/container/named_dispatch.h"
 
+#include "support/container/failure.h"
+
 #include <utility>
 #include <wchar.h>
 
@@ -9,7 +11,13 @@ NamedDispatch::NamedDispatch() : OwnObject({IID_IDispatch}) {}
 
 void NamedDispatch::property(const std::wstring& name, Getter get, Putter put) {
     const DISPID id = static_cast<DISPID>(properties_.size()) + 1;
-    properties_[id] = {name, std::move(get), std::move(put)};
+    properties_[id] = {name, [get = std::move(get)](const std::vector<Variant>&) { return get(); },
+                       std::move(put)};
+}
+
+void NamedDispatch::indexed(const std::wstring& name, Indexed get) {
+    const DISPID id = static_cast<DISPID>(properties_.size()) + 1;
+    properties_[id] = {name, std::move(get), {}};
 }
 
 STDMETHODIMP NamedDispatch::GetTypeInfoCount(UINT* count) {
@@ -31,14 +39,30 @@ STDMETHODIMP NamedDispatch::GetIDsOfNames(REFIID, OLECHAR** names, UINT count, L
     return ids[0] == DISPID_UNKNOWN ? DISP_E_UNKNOWNNAME : S_OK;
 }
 
+HRESULT NamedDispatch::read(const Indexed& get, const DISPPARAMS& parameters, VARIANT* result,
+                            EXCEPINFO* info) {
+    std::vector<Variant> indexes;
+    for (UINT i = parameters.cArgs; i > 0; --i)
+        indexes.emplace_back(parameters.rgvarg[i - 1]);
+    try {
+        Variant value = get(indexes);
+        return result ? VariantCopy(result, value.argument()) : S_OK;
+    } catch (const CallFailed& failed) {
+        if (info) {
+            *info = {};
+            info->scode = failed.failure().result;
+        }
+        return DISP_E_EXCEPTION;
+    }
+}
+
 STDMETHODIMP NamedDispatch::Invoke(DISPID id, REFIID, LCID, WORD kind, DISPPARAMS* parameters,
-                                   VARIANT* result, EXCEPINFO*, UINT*) {
+                                   VARIANT* result, EXCEPINFO* info, UINT*) {
     const auto found = properties_.find(id);
     if (found == properties_.end())
         return DISP_E_MEMBERNOTFOUND;
     if (kind & DISPATCH_PROPERTYGET) {
-        Variant value = found->second.get();
-        return result ? VariantCopy(result, value.argument()) : S_OK;
+        return read(found->second.get, *parameters, result, info);
     }
     if (!found->second.put || parameters->cArgs != 1)
         return DISP_E_MEMBERNOTFOUND;

@@ -1,4 +1,5 @@
-// An automation object whose properties are functions: the extender of a control and the form it stands on.
+// An automation object whose properties are functions: the extender of a control, the form it stands on, an
+// image list.
 #pragma once
 
 #include "support/container/own_object.h"
@@ -7,6 +8,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <vector>
 
 #include <oaidl.h>
 
@@ -16,10 +18,14 @@ class NamedDispatch final : public OwnObject<IDispatch> {
 public:
     using Getter = std::function<Variant()>;
     using Putter = std::function<void(const Variant&)>;
+    /// Arguments in declared order. It throws CallFailed to raise an error.
+    using Indexed = std::function<Variant(const std::vector<Variant>& indexes)>;
 
     NamedDispatch();
     /// Names are found without regard to case. Without a putter the property is read only.
     void property(const std::wstring& name, Getter get, Putter put = {});
+    /// A read-only property with indexes.
+    void indexed(const std::wstring& name, Indexed get);
 
     STDMETHODIMP GetTypeInfoCount(UINT* count) override;
     STDMETHODIMP GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) override;
@@ -29,9 +35,11 @@ public:
                         VARIANT* result, EXCEPINFO* info, UINT* wrong_argument) override;
 
 private:
+    static HRESULT read(const Indexed& get, const DISPPARAMS& parameters, VARIANT* result, EXCEPINFO* info);
+
     struct Property {
         std::wstring name;
-        Getter get;
+        Indexed get;
         Putter put;
     };
     std::map<DISPID, Property> properties_;

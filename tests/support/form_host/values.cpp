@@ -2,13 +2,24 @@
 
 #include "support/container/ambients.h"
 #include "support/container/arrays.h"
+#include "support/container/image_list_object.h"
 #include "support/container/text.h"
 #include "support/container/pictures.h"
 
 #include <cmath>
+#include <map>
 
 namespace vellora::test {
 namespace {
+
+// Three images of a size: "red", "green" and "blue". The program keeps them, as a form keeps its image lists.
+Variant image_list(int size) {
+    static std::map<int, ImageListObject> lists;
+    const auto [found, made] =
+        lists.try_emplace(size, size, std::vector<std::wstring>{L"red", L"green", L"blue"},
+                          std::vector<COLORREF>{RGB(255, 0, 0), RGB(0, 128, 0), RGB(0, 0, 255)});
+    return found->second.object().Get();
+}
 
 Variant typed(const Json& value) {
     const auto& [kind, content] = *value.object().begin();
@@ -28,6 +39,8 @@ Variant typed(const Json& value) {
     }
     if (kind == "nothing")
         return static_cast<IDispatch*>(nullptr);
+    if (kind == "image_list")
+        return image_list(static_cast<int>(content.number()));
     if (kind == "texts") {
         std::vector<std::wstring> texts;
         for (const Json& text : content.list())

@@ -58,6 +58,7 @@ public:
     ColumnSet& columns() { return control_->columns(); }
     ColumnAutoSize& auto_size() { return control_->column_sizes(); }
     ColumnOrder& column_order() { return control_->column_order(); }
+    HeaderIcons& header_icons() { return control_->header_icons(); }
     Placement& placement() { return control_->placement(); }
     DropDown& drop_down() { return control_->drop_down(); }
     ResizeGrip& resize_grip() { return control_->resize_grip(); }

@@ -65,7 +65,9 @@ void HeadlessListView::clear_headers() {
 }
 
 void HeadlessListView::add_header(std::u16string_view text) {
-    headers_.push_back({std::u16string(text), 1440, {}});
+    Header& added = headers_.emplace_back();
+    added.text = text;
+    added.width = 1440;
     reset_order();
 }
 
@@ -83,6 +85,28 @@ void HeadlessListView::set_header_width(std::int32_t column, float width) {
 
 void HeadlessListView::set_header_tag(std::int32_t column, std::u16string_view tag) {
     header(column).tag = tag;
+}
+
+void HeadlessListView::set_column_header_icons(const ImageListRef& icons) {
+    header_icons_ = icons;
+    renew_header_icons();
+}
+
+void HeadlessListView::set_header_icon(std::int32_t column, std::u16string_view key) {
+    Header& target = header(column);
+    const auto image = key.empty() || !header_icons_ ? std::nullopt : header_icons_->image(key);
+    if (!key.empty() && !image) {
+        throw HostError(error_number::element_not_found);
+    }
+    target.icon = key;
+    target.image = image.value_or(-1);
+}
+
+void HeadlessListView::renew_header_icons() {
+    for (Header& each : headers_) {
+        const bool has_one = header_icons_ && !each.icon.empty();
+        each.image = has_one ? header_icons_->image(each.icon).value_or(-1) : -1;
+    }
 }
 
 void HeadlessListView::reset_order() {

@@ -37,6 +37,11 @@ public:
     std::u16string header_tag(std::int32_t column) const override { return header(column).tag; }
     void set_header_tag(std::int32_t column, std::u16string_view tag) override;
 
+    ImageListRef column_header_icons() const override { return header_icons_; }
+    void set_column_header_icons(const ImageListRef& icons) override;
+    void set_header_icon(std::int32_t column, std::u16string_view key) override;
+    void renew_header_icons() override;
+
     bool hide_column_headers() const override { return hide_column_headers_; }
     void set_hide_column_headers(bool hide) override { hide_column_headers_ = hide; }
     bool allow_column_reorder() const override { return allow_column_reorder_; }
@@ -57,6 +62,8 @@ public:
     std::intptr_t handle_message(std::uint32_t message, std::uintptr_t wparam, std::intptr_t lparam) override;
     std::uint32_t content_style() const override;
 
+    /// The 0-based image a header shows, -1 for none.
+    std::int32_t shown_icon(std::int32_t column) const { return header(column).image; }
     WindowHandle header_window() const { return header_window_; }
     void set_row_height(float twips) { row_height_ = twips; }
     void set_header_height(std::int32_t pixels);
@@ -76,6 +83,8 @@ private:
         std::u16string text;
         float width = 0;
         std::u16string tag;
+        std::u16string icon;
+        std::int32_t image = -1;
     };
     const Header& header(std::int32_t column) const;
     Header& header(std::int32_t column);
@@ -97,6 +106,7 @@ private:
     bool allow_column_reorder_ = false;
     bool check_boxes_ = false;
     bool grid_lines_ = false;
+    ImageListRef header_icons_;
     FontRef font_;
     PictureRef picture_;
     OleColor fore_color_ = 0x80000008;
