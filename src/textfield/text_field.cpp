@@ -99,6 +99,10 @@ void TextField::got_focus() {
         core_.user32.release_capture();
     }
     select_whole_text(core_.live_text_box());
+    // Whoever comes to the field is about to type.
+    if (core_.state.mbAutoComplete) {
+        core_.parts.ListView1.rows().prepare_completion(core_.state.miTextColumn - 1);
+    }
 }
 
 } // namespace vellora

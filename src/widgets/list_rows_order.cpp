@@ -145,4 +145,11 @@ std::int32_t ListRows::first_beginning_with(std::u16string_view target, std::int
     return search.first(TextMatcher(target, true, store_->compare), {cell, cell + 1}, 0);
 }
 
+void ListRows::prepare_completion(std::int32_t column) const {
+    if (column >= 0) {
+        store_->indexes.begin_search();
+        store_->indexes.find(static_cast<std::uint32_t>(column), true);
+    }
+}
+
 } // namespace vellora

@@ -190,6 +190,19 @@ TEST_F(RowIndex, NoneIsMadeForOneSearch) {
     EXPECT_LE(bytes_in_use() - filled, 64U);
 }
 
+TEST_F(RowIndex, IsThereBeforeTheFirstCompletionWhereItWasPrepared) {
+    fill();
+    const std::size_t filled = bytes_in_use();
+    rows_.prepare_completion(0);
+    const std::size_t prepared = bytes_in_use();
+    EXPECT_GT(prepared - filled, count * sizeof(std::uint32_t));
+    EXPECT_EQ(rows_.first_beginning_with(u"001999", 0), 1999);
+    EXPECT_EQ(bytes_in_use(), prepared);
+    rows_.prepare_completion(-1);
+    rows_.prepare_completion(70);
+    EXPECT_EQ(bytes_in_use(), prepared);
+}
+
 // Texts of at most seven units, so that the searches themselves need no memory.
 TEST_F(RowIndex, WithoutMemoryForItTheSearchGoesOn) {
     fill(1);
