@@ -28,8 +28,9 @@ end_run() {
     stop_background
     keep_results
     if [ -z "$RUN_KEPT" ]; then
-        display_stop
+        # Programs that lose their display would say so.
         release_seat "$SEAT"
+        display_stop
         rm -f -- "$RUN_LOCK"
     fi
     exit "$code"
