@@ -57,6 +57,14 @@ void ControlHost::focus_left() {
     activation_.tell_focus(false);
 }
 
+void ControlHost::control_info_changed() {
+    if (ending_)
+        return;
+    const Hold alive = hold();
+    if (const ComPtr<IOleControlSite> site = site_.control_site())
+        site->OnControlInfoChanged();
+}
+
 void ControlHost::view_changed() {
     if (ending_)
         return;
@@ -79,16 +87,24 @@ void ControlHost::property_changed(std::u16string_view name) {
     if (ending_)
         return;
     const Hold alive = hold();
+    if (const std::optional<DISPID> property = property_id(name))
+        connections_.property_changed(*property);
+}
+
+bool ControlHost::may_change(std::u16string_view name) {
+    if (ending_)
+        return true;
+    const Hold alive = hold();
+    const std::optional<DISPID> property = property_id(name);
+    return !property || connections_.request_edit(*property);
+}
+
+std::optional<DISPID> ControlHost::property_id(std::u16string_view name) const {
     const std::wstring text = wide(name);
     auto names = const_cast<LPOLESTR>(text.c_str());
     DISPID property = DISPID_UNKNOWN;
-    if (SUCCEEDED(types_->default_interface().type->GetIDsOfNames(&names, 1, &property)))
-        connections_.property_changed(property);
-}
-
-bool ControlHost::may_change(DISPID property) {
-    const Hold alive = hold();
-    return connections_.request_edit(property);
+    const HRESULT found = types_->default_interface().type->GetIDsOfNames(&names, 1, &property);
+    return SUCCEEDED(found) ? std::optional(property) : std::nullopt;
 }
 
 ControlSize& ControlHost::extent() {

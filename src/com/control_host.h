@@ -20,6 +20,7 @@
 #include "com/view_advises.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -51,6 +52,8 @@ public:
     void request_ui_activation();
     /// The focus went to a window that is not the control's.
     void focus_left();
+    /// Which keys the control eats has changed.
+    void control_info_changed();
     /// The control's face is no longer what was drawn: tells those who keep a picture of it.
     void view_changed();
 
@@ -65,7 +68,7 @@ public:
     /// program and only marks it.
     void property_changed(std::u16string_view name);
     /// False when a listener forbids the property to change.
-    bool may_change(DISPID property);
+    bool may_change(std::u16string_view name);
 
     /// Gives a control its defaults that is used although its container neither initialised nor loaded it.
     void ensure_initialised() { persistence_.ensure_initialised(client()); }
@@ -103,6 +106,7 @@ public:
     void end() noexcept;
 
 private:
+    std::optional<DISPID> property_id(std::u16string_view name) const;
     void fire_list(DISPID event, VARIANT* arguments, UINT count);
     void request_extent(SIZE pixels);
     void tell_changed_extent();

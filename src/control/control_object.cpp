@@ -100,6 +100,14 @@ void ControlObject::show_own_name() {
 std::u16string ControlObject::Text() const { return core_.live_text_box().text(); }
 
 void ControlObject::put_Text(std::u16string_view text) {
+    if (!writing_text_ && (core_.state.mbLoadingProperties || may_change_text())) {
+        write_text(text);
+    }
+}
+
+bool ControlObject::may_change_text() { return core_.site.may_change(u"Text"); }
+
+void ControlObject::write_text(std::u16string_view text) {
     if (writing_text_) {
         return;
     }
@@ -110,7 +118,7 @@ void ControlObject::put_Text(std::u16string_view text) {
 
 void ControlObject::write_text_silently(std::u16string_view text) {
     const RaisedFlag ignore(core_.state.mbIgnoreChange);
-    put_Text(text);
+    write_text(text);
 }
 
 WindowHandle ControlObject::hWnd() const { return core_.surface.window(); }

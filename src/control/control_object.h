@@ -24,8 +24,13 @@ public:
 
     std::u16string Text() const;
     /// Writes the text field and nothing else: neither the list nor the selected row. Does nothing while an earlier
-    /// write of this instance is still under way, as in a Change handler that assigns Text again.
+    /// write of this instance is still under way, as in a Change handler that assigns Text again, and when the host
+    /// does not allow the text to change.
     void put_Text(std::u16string_view text);
+    /// False when the host keeps the text as it is, as for a field that is bound to data nobody may edit.
+    bool may_change_text();
+    /// The same without asking the host: the text has changed already, or has to follow the selected row.
+    void write_text(std::u16string_view text);
     /// Writes the text field as the control's own doing: no completion, no Change event.
     void write_text_silently(std::u16string_view text);
 

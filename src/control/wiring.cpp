@@ -39,6 +39,11 @@ void Control::Wiring::text_key_up(std::int16_t& key_code, std::int16_t& shift) {
     control_.text_field_.key_up(key_code, shift);
 }
 
+bool Control::Wiring::text_may_change() {
+    const auto held = hold();
+    return control_.object_.may_change_text();
+}
+
 void Control::Wiring::text_changed() {
     const auto held = hold();
     control_.text_field_.changed();
@@ -137,6 +142,7 @@ void Control::Wiring::surface_lost_focus() {
 
 void Control::Wiring::surface_focus_left() {
     const auto held = hold();
+    control_.text_field_.focus_left();
     control_.drop_down_.UserControl_ExitFocus();
 }
 

@@ -30,6 +30,7 @@ private:
     void text_key_down(std::int16_t& key_code, std::int16_t& shift) override;
     void text_key_press(std::int16_t& key_ascii) override;
     void text_key_up(std::int16_t& key_code, std::int16_t& shift) override;
+    bool text_may_change() override;
     void text_changed() override;
     void text_mouse_down(std::int16_t& button, std::int16_t& shift, float& x, float& y) override;
     void text_mouse_move(std::int16_t& button, std::int16_t& shift, float& x, float& y) override;

@@ -27,6 +27,8 @@ public:
     virtual WindowHandle form_window() const = 0;
     virtual bool form_is_mdi_child() const = 0;
     virtual void property_changed(std::u16string_view name) = 0;
+    /// Whether the container allows a bound property to change; to be asked before it does.
+    virtual bool may_change(std::u16string_view name) = 0;
     /// Holds the instance while the result lives. An event handler may let go of the control; whoever enters the
     /// behaviour from a constituent holds this until it is back.
     virtual std::shared_ptr<void> keep_alive() = 0;

@@ -30,6 +30,10 @@ void HostSite::property_changed(std::u16string_view name) {
     host_.view_changed();
 }
 
+bool HostSite::may_change(std::u16string_view name) {
+    return host_.may_change(name);
+}
+
 std::shared_ptr<void> HostSite::keep_alive() { return std::make_shared<com::Hold>(host_.hold()); }
 
 } // namespace vellora::server

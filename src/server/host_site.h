@@ -21,6 +21,7 @@ public:
     WindowHandle form_window() const override;
     bool form_is_mdi_child() const override;
     void property_changed(std::u16string_view name) override;
+    bool may_change(std::u16string_view name) override;
     std::shared_ptr<void> keep_alive() override;
 
 private:

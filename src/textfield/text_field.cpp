@@ -70,7 +70,7 @@ void TextField::changed() {
         complete();
     }
     if (!state.mbIgnoreChange) {
-        object_.put_Text(core_.live_text_box().text());
+        object_.write_text(core_.live_text_box().text());
         core_.events.change();
     }
 }
@@ -93,6 +93,8 @@ void TextField::complete_with(std::int32_t row) {
     text_box.set_selection_length(static_cast<std::int32_t>(whole.size()) - caret);
     selection_.put_ListIndex(row);
 }
+
+void TextField::focus_left() { core_.state.mbKeyTyped = false; }
 
 void TextField::got_focus() {
     if (core_.state.mlButtonStyle == vlToggle) {

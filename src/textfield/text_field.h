@@ -27,6 +27,8 @@ public:
     /// neither while completion is on.
     void changed();
     void got_focus();
+    /// The focus left the control. A key that comes up elsewhere no longer counts as down here.
+    void focus_left();
 
 private:
     void step(std::int16_t by);

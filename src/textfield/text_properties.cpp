@@ -1,8 +1,10 @@
 #include "textfield/text_properties.h"
 
 #include "runtime/checked.h"
+#include "runtime/host_error.h"
 
 #include <cstddef>
+#include <utility>
 
 namespace vellora {
 
@@ -15,6 +17,14 @@ constexpr std::int32_t high_word = 0x10000;
 
 constexpr bool names_text_box(std::int32_t alignment) { return alignment >= 0 && alignment <= 2; }
 
+void pass_focus_to(TextBox& text_box) {
+    try {
+        text_box.focus();
+    } catch (const HostError&) {
+        // A text box that cannot have it leaves the focus to the window system.
+    }
+}
+
 } // namespace
 
 TextProperties::TextProperties(ControlCore& core) : core_(core) {}
@@ -22,13 +32,38 @@ TextProperties::TextProperties(ControlCore& core) : core_(core) {}
 std::int32_t TextProperties::Alignment() const { return core_.state.mlAlignment; }
 
 void TextProperties::put_Alignment(std::int32_t alignment) {
-    const std::int32_t old_alignment = core_.state.mlAlignment;
-    core_.state.mlAlignment = alignment;
-    for (std::size_t element = 0; element < core_.parts.txtTextProperty.size(); ++element) {
-        core_.parts.txtTextProperty[element]->set_visible(static_cast<std::int32_t>(element) == alignment);
+    const std::int32_t old_alignment = std::exchange(core_.state.mlAlignment, alignment);
+    if (!names_text_box(alignment)) {
+        hide_all_but(nullptr);
+        throw HostError(error_number::control_array_element_missing);
     }
-    carry_over(old_alignment);
+    show_live(old_alignment);
+    hide_all_but(&core_.live_text_box());
     core_.property_changed(u"Alignment");
+}
+
+// The live text box comes before the old one goes: a focus without a text box to be in would fall to the surface, and
+// what the user types next would be lost.
+void TextProperties::show_live(std::int32_t old_alignment) {
+    const bool focused = names_text_box(old_alignment) && text_box(old_alignment).focused();
+    TextBox& live = core_.live_text_box();
+    carry_over(old_alignment);
+    live.set_visible(true);
+    if (focused) {
+        pass_focus_to(live);
+    }
+}
+
+void TextProperties::hide_all_but(const TextBox* shown) {
+    for (TextBox* text_box : core_.parts.txtTextProperty) {
+        if (text_box != shown) {
+            text_box->set_visible(false);
+        }
+    }
+}
+
+TextBox& TextProperties::text_box(std::int32_t alignment) const {
+    return *core_.parts.txtTextProperty[static_cast<std::size_t>(alignment)];
 }
 
 void TextProperties::carry_over(std::int32_t old_alignment) {
@@ -38,7 +73,7 @@ void TextProperties::carry_over(std::int32_t old_alignment) {
     live.set_locked(core_.state.mbLocked);
     live.set_enabled(core_.state.mbEnabled);
     if (names_text_box(old_alignment)) {
-        live.set_text(core_.parts.txtTextProperty[static_cast<std::size_t>(old_alignment)]->text());
+        live.set_text(text_box(old_alignment).text());
     }
 }
 

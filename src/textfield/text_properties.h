@@ -20,8 +20,8 @@ public:
     explicit TextProperties(ControlCore& core);
 
     std::int32_t Alignment() const;
-    /// Carries text, Locked and Enabled over to the new live text box without a Change event. A value outside 0 to
-    /// 2 leaves no text box visible and raises 340.
+    /// Carries text, Locked, Enabled and the focus over to the new live text box without an event. A value outside 0
+    /// to 2 leaves no text box visible and raises 340.
     void put_Alignment(std::int32_t alignment);
 
     std::int32_t MaxLength() const;
@@ -45,6 +45,9 @@ public:
     void put_SelLength(std::int32_t length);
 
 private:
+    void show_live(std::int32_t old_alignment);
+    void hide_all_but(const TextBox* shown);
+    TextBox& text_box(std::int32_t alignment) const;
     void carry_over(std::int32_t old_alignment);
     void send_margins(std::uintptr_t which, std::intptr_t value);
 

@@ -17,6 +17,8 @@ public:
     virtual void text_key_down(std::int16_t& key_code, std::int16_t& shift) = 0;
     virtual void text_key_press(std::int16_t& key_ascii) = 0;
     virtual void text_key_up(std::int16_t& key_code, std::int16_t& shift) = 0;
+    /// Asked before the user changes the text; false leaves it as it is.
+    virtual bool text_may_change() = 0;
     virtual void text_changed() = 0;
     /// Button 1 left, 2 right, 4 middle (a mask of them for moves); shift 1 Shift, 2 Ctrl, 4 Alt; twips.
     virtual void text_mouse_down(std::int16_t& button, std::int16_t& shift, float& x, float& y) = 0;
@@ -64,6 +66,7 @@ public:
 
     /// Error 5 when the text box cannot take the focus (invisible or disabled).
     virtual void focus() = 0;
+    virtual bool focused() const = 0;
 };
 
 } // namespace vellora

@@ -138,13 +138,13 @@ TEST_F(ConnectionTest, PropertiesAreAnnouncedByTheirNames) {
 }
 
 TEST_F(ConnectionTest, AListenerMayForbidAChange) {
-    EXPECT_TRUE(fixture().host().may_change(5));
+    EXPECT_TRUE(fixture().host().may_change(u"Mode"));
     const ComPtr<PropertySink> sink(new PropertySink);
     DWORD cookie = 0;
     ASSERT_EQ(S_OK, point(IID_IPropertyNotifySink)->Advise(sink.Get(), &cookie));
-    EXPECT_TRUE(fixture().host().may_change(5));
+    EXPECT_TRUE(fixture().host().may_change(u"Mode"));
     sink->answer = S_FALSE;
-    EXPECT_FALSE(fixture().host().may_change(5));
+    EXPECT_FALSE(fixture().host().may_change(u"Mode"));
 }
 
 TEST_F(ConnectionTest, PointsAndConnectionsAreEnumerated) {

@@ -1,6 +1,7 @@
 // The three text boxes behind the text field: which one is live, and the settings they share.
 #include "support/headless/failure.h"
 #include "support/headless/headless_control.h"
+#include "support/headless/user.h"
 
 #include <gtest/gtest.h>
 
@@ -69,6 +70,46 @@ TEST(Alignment, ThatDoesNotExistHidesAllAndFails) {
     }
 }
 
+TEST(Alignment, TakesTheFocusAlongWithoutAnEvent) {
+    HeadlessControl combo;
+    combo.object().put_Text(u"abc");
+    User(combo).click_text();
+    for (const std::int32_t alignment : {1, 2, 0}) {
+        combo.journal().take_all();
+        combo.text_properties().put_Alignment(alignment);
+        EXPECT_EQ(combo.journal().take_all(),
+                  (Lines{"focus text " + std::to_string(alignment), "Changed(Alignment)"}));
+        EXPECT_EQ(combo.text_properties().SelText(), u"abc");
+    }
+    User(combo).type(u"d");
+    EXPECT_EQ(combo.object().Text(), u"d");
+}
+
+TEST(Alignment, LeavesTheFocusInTheOpenList) {
+    HeadlessControl combo;
+    combo.add(u"row");
+    User(combo).click_text();
+    combo.drop_down().ShowList();
+    combo.journal().take_all();
+    combo.text_properties().put_Alignment(1);
+    EXPECT_EQ(combo.desktop().focus(), combo.list_view.window());
+    EXPECT_EQ(combo.journal().take_all(), Lines{"Changed(Alignment)"});
+}
+
+TEST(Alignment, ThatDoesNotExistCanBePutRight) {
+    HeadlessControl combo;
+    User(combo).click_text();
+    failure_of([&] { combo.text_properties().put_Alignment(7); });
+    EXPECT_EQ(failure_of([&] { combo.object().Text(); }).number, 340);
+    EXPECT_EQ(failure_of([&] { combo.text_properties().put_SelStart(0); }).number, 340);
+    combo.text_properties().put_Alignment(0);
+    EXPECT_TRUE(combo.text_box(0).visible());
+    EXPECT_EQ(combo.object().Text(), u"Vellora1");
+    User(combo).click_text();
+    User(combo).type(u"x");
+    EXPECT_EQ(combo.object().Text(), u"x");
+}
+
 TEST(MaxLength, HoldsForAllThree) {
     HeadlessControl combo;
     combo.text_properties().put_MaxLength(5);
@@ -78,6 +119,32 @@ TEST(MaxLength, HoldsForAllThree) {
     combo.object().put_Text(u"1234567");
     EXPECT_EQ(combo.object().Text(), u"12345");
     EXPECT_EQ(combo.text_properties().MaxLength(), 5);
+}
+
+TEST(MaxLength, OfZeroIsNoLimit) {
+    HeadlessControl combo;
+    combo.text_properties().put_MaxLength(2);
+    combo.text_properties().put_MaxLength(0);
+    combo.object().put_Text(std::u16string(100'000, u'x'));
+    EXPECT_EQ(combo.object().Text().size(), 100'000U);
+}
+
+TEST(MaxLength, BelowZeroIsKeptAndRefusedByTheTextBoxes) {
+    HeadlessControl combo;
+    combo.text_properties().put_MaxLength(3);
+    EXPECT_EQ(failure_of([&] { combo.text_properties().put_MaxLength(-5); }).number, 380);
+    EXPECT_EQ(combo.text_properties().MaxLength(), -5);
+    combo.object().put_Text(u"abcdef");
+    EXPECT_EQ(combo.object().Text(), u"abc");
+}
+
+TEST(MaxLength, CutsNoCharacterInTwo) {
+    HeadlessControl combo;
+    combo.text_properties().put_MaxLength(2);
+    combo.object().put_Text(u"a\U0001F600");
+    EXPECT_EQ(combo.object().Text(), u"a");
+    combo.text_properties().put_SelText(u"\U0001F600");
+    EXPECT_EQ(combo.object().Text(), u"a");
 }
 
 TEST(Margins, GoToAllThreeTextBoxes) {

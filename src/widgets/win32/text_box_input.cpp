@@ -1,17 +1,61 @@
 #include "widgets/win32/text_box_input.h"
 
+#include "runtime/utf16.h"
 #include "widgets/win32/user_input.h"
+
+#include <utility>
 
 namespace vellora::win32 {
 
 namespace {
 
+constexpr char16_t select_all = 0x01;        // Ctrl+A
+constexpr char16_t control_backspace = 0x7F; // the platform would type it as a box
+
 // A single-line field has no use for these and would beep; what they mean is the form's business.
-bool is_dialog_character(std::uint16_t unit) {
-    return unit == L'\t' || unit == L'\n' || unit == L'\r' || unit == VK_ESCAPE;
+bool types_nothing(char16_t unit) {
+    return unit == u'\t' || unit == u'\n' || unit == u'\r' || unit == VK_ESCAPE || unit == control_backspace;
+}
+
+// The platform's own limit counts units, and would let half a character in.
+bool has_room_for_pair(const EditWindow& edit) {
+    DWORD start = 0;
+    DWORD end = 0;
+    edit.send(EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+    const LRESULT kept = edit.send(WM_GETTEXTLENGTH) - static_cast<LRESULT>(end - start);
+    return kept + 2 <= edit.send(EM_GETLIMITTEXT);
+}
+
+bool is_locked(const EditWindow& edit) {
+    return (GetWindowLongPtrW(edit.handle(), GWL_STYLE) & ES_READONLY) != 0;
+}
+
+/// Whether the platform may change the text on a message. Ctrl+V and its like come back as commands.
+bool changes_text(const EditMessage& message) {
+    switch (message.id) {
+    case WM_CHAR:
+        return message.wparam >= L' ' || message.wparam == VK_BACK;
+    case WM_KEYDOWN:
+        return message.wparam == VK_DELETE;
+    case WM_CUT:
+    case WM_PASTE:
+    case WM_CLEAR:
+    case WM_UNDO:
+    case EM_UNDO:
+    case WM_IME_STARTCOMPOSITION:
+    case WM_IME_COMPOSITION:
+        return true;
+    default:
+        return false;
+    }
 }
 
 } // namespace
+
+bool TextBoxInput::refuses(const EditMessage& message) {
+    return listener_ != nullptr && changes_text(message) && !is_locked(edit_) &&
+           !listener_->text_may_change();
+}
 
 std::optional<LRESULT> TextBoxInput::answer(const EditMessage& message) {
     switch (message.id) {
@@ -23,6 +67,8 @@ std::optional<LRESULT> TextBoxInput::answer(const EditMessage& message) {
         return key_up(message);
     case WM_CHAR:
         return character(message);
+    case WM_UNICHAR:
+        return whole_character(message);
     case WM_LBUTTONDBLCLK:
     case WM_RBUTTONDBLCLK:
     case WM_MBUTTONDBLCLK:
@@ -33,6 +79,11 @@ std::optional<LRESULT> TextBoxInput::answer(const EditMessage& message) {
         return lost_focus(message);
     case WM_MOUSEMOVE:
         return mouse(message);
+    case WM_CUT:
+    case WM_CLEAR:
+    case WM_UNDO:
+    case EM_UNDO:
+        return edit_command(message);
     default:
         return button_of(message.id) != 0 ? std::optional(mouse(message)) : std::nullopt;
     }
@@ -42,7 +93,9 @@ LRESULT TextBoxInput::pass_on(const Lifeline::Watch& watch, const EditMessage& m
     if (!watch.alive() || code == 0) {
         return 0;
     }
-    return edit_.pass_on({message.id, static_cast<std::uint16_t>(code), message.lparam});
+    const EditMessage passed{message.id, static_cast<std::uint16_t>(code), message.lparam};
+    const bool refused = refuses(passed);
+    return refused || !watch.alive() ? 0 : edit_.pass_on(passed);
 }
 
 LRESULT TextBoxInput::key_down(const EditMessage& message) {
@@ -65,15 +118,60 @@ LRESULT TextBoxInput::key_up(const EditMessage& message) {
     return pass_on(watch, message, code);
 }
 
-// Characters beyond 16 bits arrive as two units, each a message of its own; unchanged ones go on as they
-// came.
 LRESULT TextBoxInput::character(const EditMessage& message) {
     const Lifeline::Watch watch(lifeline_);
     auto code = static_cast<std::int16_t>(message.wparam);
     if (listener_ != nullptr) {
         listener_->text_key_press(code);
     }
-    return is_dialog_character(static_cast<std::uint16_t>(code)) ? 0 : pass_on(watch, message, code);
+    if (!watch.alive() || take_half(static_cast<char16_t>(code))) {
+        return 0;
+    }
+    const auto unit = static_cast<char16_t>(code);
+    if (unit == select_all) {
+        edit_.send(EM_SETSEL, 0, -1);
+        return 0;
+    }
+    return types_nothing(unit) ? 0 : pass_on(watch, message, code);
+}
+
+// Characters beyond 16 bits arrive as two units, each a message of its own. They go into the text together:
+// nobody is to see, complete or cut half a character. A half without the other is nothing.
+bool TextBoxInput::take_half(char16_t unit) {
+    const char16_t first = std::exchange(first_half_, is_first_half(unit) ? unit : u'\0');
+    if (first != 0 && is_second_half(unit)) {
+        type_pair(first, unit);
+    }
+    return is_first_half(unit) || is_second_half(unit);
+}
+
+void TextBoxInput::type_pair(char16_t first, char16_t second) {
+    const Lifeline::Watch watch(lifeline_);
+    const bool refused = is_locked(edit_) || !has_room_for_pair(edit_) || refuses({WM_CHAR, second, 0});
+    if (!refused && watch.alive()) {
+        const char16_t pair[] = {first, second, 0};
+        edit_.send(EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(pair));
+    }
+}
+
+// Programs that type for the user send a character as one number.
+LRESULT TextBoxInput::whole_character(const EditMessage& message) {
+    if (message.wparam == UNICODE_NOCHAR) {
+        return TRUE;
+    }
+    const Lifeline::Watch watch(lifeline_);
+    for (const char16_t unit : to_utf16(static_cast<char32_t>(message.wparam))) {
+        if (watch.alive()) {
+            edit_.send(WM_CHAR, unit, message.lparam);
+        }
+    }
+    return 0;
+}
+
+LRESULT TextBoxInput::edit_command(const EditMessage& message) {
+    const Lifeline::Watch watch(lifeline_);
+    const bool refused = refuses(message);
+    return refused || !watch.alive() ? 0 : edit_.pass_on(message);
 }
 
 LRESULT TextBoxInput::mouse(const EditMessage& message) {

@@ -18,11 +18,17 @@ public:
     /// The answer to a message of the keyboard, the mouse or the focus, nothing for any other. The listener
     /// may end the text box meanwhile.
     std::optional<LRESULT> answer(const EditMessage& message);
+    /// Whether the listener forbids what the message would do to the text.
+    bool refuses(const EditMessage& message);
 
 private:
     LRESULT key_down(const EditMessage& message);
     LRESULT key_up(const EditMessage& message);
     LRESULT character(const EditMessage& message);
+    LRESULT whole_character(const EditMessage& message);
+    bool take_half(char16_t unit);
+    void type_pair(char16_t first, char16_t second);
+    LRESULT edit_command(const EditMessage& message);
     LRESULT mouse(const EditMessage& message);
     LRESULT double_click(const EditMessage& message);
     LRESULT got_focus(const EditMessage& message);
@@ -35,6 +41,7 @@ private:
     FocusTracker& focus_;
     TextBoxListener* listener_ = nullptr;
     Lifeline lifeline_;
+    char16_t first_half_ = 0; // of a character whose second half is still to come
 };
 
 } // namespace vellora::win32

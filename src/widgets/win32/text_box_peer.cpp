@@ -1,8 +1,12 @@
 #include "widgets/win32/text_box_peer.h"
 
 #include "runtime/host_error.h"
+#include "runtime/scoped_flag.h"
+#include "runtime/utf16.h"
 #include "widgets/win32/reflection.h"
 #include "widgets/win32/wide_text.h"
+
+#include <imm.h>
 
 #include <algorithm>
 
@@ -16,9 +20,10 @@ void check_not_negative(std::int32_t value) {
     }
 }
 
-/// What a text box takes of a text: nothing from the first zero unit on, and no more than there is room for.
+/// What a text box takes of a text: nothing from the first zero unit on, no more than there is room for, and
+/// no half of a character.
 std::u16string accepted_part(std::u16string_view text, std::size_t room) {
-    return std::u16string(text.substr(0, std::min(text.find(u'\0'), room)));
+    return std::u16string(beginning_of(text.substr(0, text.find(u'\0')), room));
 }
 
 } // namespace
@@ -169,6 +174,12 @@ LRESULT TextBoxPeer::edit_message(const EditMessage& message) {
         return 0;
     case WM_GETOBJECT:
         return describe(message);
+    case WM_IME_STARTCOMPOSITION:
+    case WM_IME_COMPOSITION:
+    case WM_IME_ENDCOMPOSITION:
+        return compose(message);
+    case WM_PASTE:
+        return paste(message);
     case EM_SETMARGINS:
         return keep_margins(message);
     case WM_SIZE:
@@ -192,10 +203,53 @@ LRESULT TextBoxPeer::set_colors(HDC dc) {
     return reinterpret_cast<LRESULT>(background_.get(back_color_));
 }
 
+// Some platforms show what an input method composes in the field itself. It is the user's text only when it
+// is done: until then nobody hears of it, or a completion would write into the middle of a composition.
+LRESULT TextBoxPeer::compose(const EditMessage& message) {
+    const Lifeline::Watch watch(lifeline_);
+    if (input_.refuses(message) || !watch.alive()) {
+        return 0;
+    }
+    const LRESULT result = pass_on_quietly(message);
+    if (message.id == WM_IME_ENDCOMPOSITION || (message.lparam & GCS_RESULTSTR) != 0) {
+        note_change();
+    }
+    return result;
+}
+
+// The platform cuts what it pastes at the limit, if need be through the middle of a character.
+LRESULT TextBoxPeer::paste(const EditMessage& message) {
+    const Lifeline::Watch watch(lifeline_);
+    if (input_.refuses(message) || !watch.alive()) {
+        return 0;
+    }
+    const LRESULT result = pass_on_quietly(message);
+    drop_half_character();
+    note_change();
+    return result;
+}
+
+LRESULT TextBoxPeer::pass_on_quietly(const EditMessage& message) {
+    const RaisedFlag quiet(quiet_);
+    return edit_.pass_on(message);
+}
+
+void TextBoxPeer::drop_half_character() {
+    const std::u16string whole = text();
+    const auto caret = static_cast<std::size_t>(selection().start);
+    if (caret == 0 || caret > whole.size() || !is_first_half(whole[caret - 1]) ||
+        (caret < whole.size() && is_second_half(whole[caret]))) {
+        return;
+    }
+    const RaisedFlag quiet(quiet_);
+    edit_.send(EM_SETSEL, caret - 1, static_cast<LPARAM>(caret));
+    edit_.send(EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(L""));
+}
+
 // The platform reports a change also when the text was replaced by the same one.
 void TextBoxPeer::note_change() {
     std::u16string now = text();
-    if (now == known_text_) {
+    if (quiet_ || now == known_text_) {
         return;
     }
     known_text_ = std::move(now);
@@ -211,7 +265,17 @@ LRESULT TextBoxPeer::keep_margins(const EditMessage& message) {
     if ((message.wparam & EC_RIGHTMARGIN) != 0) {
         right_margin_ = HIWORD(message.lparam);
     }
-    return edit_.pass_on(message);
+    const LPARAM limited =
+        MAKELPARAM(limited_margin(LOWORD(message.lparam)), limited_margin(HIWORD(message.lparam)));
+    return edit_.pass_on({message.id, message.wparam, limited});
+}
+
+// With a margin far beyond the field the platform may look for its caret for ever. What is wider than the
+// field hides all of the text in any case.
+WORD TextBoxPeer::limited_margin(WORD margin) const {
+    RECT client{};
+    GetClientRect(edit_.handle(), &client);
+    return margin == EC_USEFONTINFO ? margin : static_cast<WORD>(std::min<LONG>(margin, client.right));
 }
 
 // Margins that follow the font depend on the field's width too.

@@ -47,6 +47,7 @@ public:
     OleColor back_color() const override { return back_color_; }
     void set_back_color(OleColor color) override;
     void focus() override;
+    bool focused() const override { return edit_.handle() != nullptr && GetFocus() == edit_.handle(); }
 
 private:
     struct Selection {
@@ -59,7 +60,12 @@ private:
     LRESULT set_colors(HDC dc);
     LRESULT describe(const EditMessage& message);
     LRESULT keep_margins(const EditMessage& message);
+    WORD limited_margin(WORD margin) const;
     LRESULT resize(const EditMessage& message);
+    LRESULT compose(const EditMessage& message);
+    LRESULT paste(const EditMessage& message);
+    LRESULT pass_on_quietly(const EditMessage& message);
+    void drop_half_character();
     void note_change();
     void apply_font(HFONT font);
     void apply_margins();
@@ -74,6 +80,7 @@ private:
     EditWindow edit_;
     TextBoxInput input_;
     std::u16string known_text_;
+    bool quiet_ = false; // changes of the moment are not reported one by one
     std::int32_t max_length_ = 0;
     OleColor fore_color_ = system_color::window_text;
     OleColor back_color_ = system_color::window;

@@ -38,11 +38,13 @@ public:
     std::function<void(std::int16_t& code)> on_key_down;
     std::function<void(std::int16_t& code)> on_key_press;
     std::function<void()> on_changed;
+    std::function<bool()> may_change; // asked before each change, unless there is none
     std::function<void()> on_got_focus;
 
     void text_key_down(std::int16_t& key_code, std::int16_t& shift) override;
     void text_key_press(std::int16_t& key_ascii) override;
     void text_key_up(std::int16_t& key_code, std::int16_t& shift) override;
+    bool text_may_change() override { return !may_change || may_change(); }
     void text_changed() override;
     void text_mouse_down(std::int16_t& button, std::int16_t& shift, float& x, float& y) override;
     void text_mouse_move(std::int16_t& button, std::int16_t& shift, float& x, float& y) override;

@@ -29,10 +29,14 @@ public:
         journal_.add(Journal::Kind::notice, prefix_ + "Changed(" + readable(property) + ")");
     }
 
+    bool may_change(std::u16string_view property) override { return property != refused; }
+
     std::shared_ptr<void> keep_alive() override { return holder ? holder() : nullptr; }
 
     /// The reference the container has to the control.
     std::function<std::shared_ptr<void>()> holder;
+    /// The property the container does not allow to change.
+    std::u16string refused;
     bool run_mode = true;
     std::u16string name = u"Vellora1";
     FontRef font = make_font(195);

@@ -2,6 +2,7 @@
 #include "support/headless/text_box.h"
 
 #include "runtime/host_error.h"
+#include "runtime/utf16.h"
 #include "widgets/user32.h"
 
 #include <algorithm>
@@ -17,6 +18,11 @@ void check_not_negative(std::int32_t value) {
     }
 }
 
+/// Nothing from the first zero unit on, no more than there is room for, and no half of a character.
+std::u16string_view accepted_part(std::u16string_view text, std::size_t room) {
+    return beginning_of(text.substr(0, text.find(u'\0')), room);
+}
+
 } // namespace
 
 void check_color(OleColor color) {
@@ -27,12 +33,10 @@ void check_color(OleColor color) {
 }
 
 void HeadlessTextBox::set_text(std::u16string_view text) {
-    text = text.substr(0, text.find(u'\0'));
-    if (max_length_ > 0) {
-        text = text.substr(0, static_cast<std::size_t>(max_length_));
-    }
-    if (text != text_) {
-        change(std::u16string(text), 0);
+    const std::u16string_view accepted =
+        accepted_part(text, max_length_ > 0 ? static_cast<std::size_t>(max_length_) : text.size());
+    if (accepted != text_) {
+        change(std::u16string(accepted), 0);
     }
 }
 
@@ -62,6 +66,9 @@ void HeadlessTextBox::set_selection_length(std::int32_t length) {
 
 void HeadlessTextBox::set_selected_text(std::u16string_view text) {
     std::u16string whole = text_;
+    const std::size_t kept = text_.size() - static_cast<std::size_t>(length_);
+    const auto limit = static_cast<std::size_t>(max_length_);
+    text = accepted_part(text, max_length_ == 0 ? text.size() : limit - std::min(kept, limit));
     whole.replace(static_cast<std::size_t>(start_), static_cast<std::size_t>(length_), text);
     const auto caret = start_ + static_cast<std::int32_t>(text.size());
     if (whole == text_) {

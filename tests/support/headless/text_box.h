@@ -33,6 +33,7 @@ public:
     OleColor back_color() const override { return back_color_; }
     void set_back_color(OleColor color) override;
     void focus() override;
+    bool focused() const override { return desktop().focus() == window(); }
 
     /// Low and high word of the last EM_SETMARGINS for either side, -1 before the first.
     std::int32_t left_margin = -1;

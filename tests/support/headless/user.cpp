@@ -111,7 +111,7 @@ void User::type_unit(char16_t unit) {
         return;
     }
     text_box().listener()->text_key_press(ascii);
-    if (ascii != 0 && !text_box().locked()) {
+    if (ascii != 0 && may_edit()) {
         const char16_t typed[] = {static_cast<char16_t>(ascii)};
         text_box().set_selected_text(std::u16string_view(typed, 1));
     }
@@ -136,8 +136,12 @@ void User::press_delete() {
     key_up(del, 0);
 }
 
+bool User::may_edit() {
+    return !text_box().locked() && text_box().listener()->text_may_change();
+}
+
 void User::erase(std::int32_t from, std::int32_t length) {
-    if (from < 0) {
+    if (from < 0 || !may_edit()) {
         return;
     }
     text_box().set_selection_start(from);

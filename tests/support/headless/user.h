@@ -43,6 +43,7 @@ private:
     void key_up(std::int16_t code, std::int16_t shift);
     std::intptr_t notify(std::int32_t code);
     void type_unit(char16_t unit);
+    bool may_edit();
     void erase(std::int32_t from, std::int32_t length);
 
     HeadlessControl& combo_;
