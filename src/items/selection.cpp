@@ -108,6 +108,17 @@ void Selection::list_key_down(std::int16_t& key_code, std::int16_t shift) {
     if (shift == 0 && (key_code == key::f4 || key_code == key::escape)) {
         drop_down_.HideList();
     }
+    if (key_code == key::tab && shift <= key::shift_mask) {
+        key_code = 0;
+        leave_by_tab();
+    }
+}
+
+// The list floats outside the form, where no dialog manager looks for a Tab. The text field hands it on.
+void Selection::leave_by_tab() {
+    drop_down_.HideList();
+    constexpr std::intptr_t pressed_once = 1;
+    core_.user32.post_message(core_.live_text_box().window(), message::key_down, key::tab, pressed_once);
 }
 
 void Selection::list_key_press(std::int16_t& key_ascii) {

@@ -38,6 +38,7 @@ public:
 private:
     std::u16string text_of(std::int32_t row) const;
     void scroll_to(std::int32_t row);
+    void leave_by_tab();
 
     ControlCore& core_;
     ControlObject& object_;

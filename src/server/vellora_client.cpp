@@ -83,7 +83,7 @@ void VelloraClient::save(com::PropertyStore& store) {
 }
 
 void VelloraClient::on_deactivated() {
-    if (control_.state().mlStatic_hWnd != 0) {
+    if (list_open()) {
         control_.drop_down().subCloseDropDown();
     }
 }
@@ -96,15 +96,22 @@ com::KeyRoute VelloraClient::translate_key(const MSG& message) {
     if (message.message != WM_KEYDOWN || modified()) {
         return com::KeyRoute::container;
     }
-    const bool open = control_.state().mlStatic_hWnd != 0;
     const bool list_key = message.wParam == VK_RETURN || message.wParam == VK_ESCAPE;
-    return moves_in_child(message.wParam) || (open && list_key) ? com::KeyRoute::child
-                                                                : com::KeyRoute::container;
+    return moves_in_child(message.wParam) || (list_open() && list_key) ? com::KeyRoute::child
+                                                                       : com::KeyRoute::container;
 }
 
-com::Mnemonics VelloraClient::mnemonics() { return {}; }
+com::Mnemonics VelloraClient::mnemonics() {
+    com::Mnemonics none;
+    none.flags = list_open() ? CTRLINFO_EATS_RETURN | CTRLINFO_EATS_ESCAPE : 0;
+    return none;
+}
 
 void VelloraClient::on_mnemonic(const MSG&) {}
+
+bool VelloraClient::list_open() {
+    return control_.state().mlStatic_hWnd != 0;
+}
 
 std::optional<com::PropertyCategory> VelloraClient::category(DISPID property) {
     return property_category(property);

@@ -38,6 +38,8 @@ public:
     std::optional<com::PropertyCategory> category(DISPID property) override;
 
 private:
+    bool list_open();
+
     void surface_wants_height(int pixels) override;
     void surface_focus_entered() override;
     void surface_focus_left() override;

@@ -15,6 +15,7 @@ inline constexpr std::uint32_t destroy = 0x0002;
 inline constexpr std::uint32_t kill_focus = 0x0008;
 inline constexpr std::uint32_t notify = 0x004E;
 inline constexpr std::uint32_t non_client_activate = 0x0086;
+inline constexpr std::uint32_t key_down = 0x0100;
 inline constexpr std::uint32_t edit_set_margins = 0x00D3;
 inline constexpr std::uint32_t list_get_header = 0x101F;
 inline constexpr std::uint32_t list_set_column_width = 0x101E;
@@ -63,6 +64,9 @@ public:
     virtual int system_metric(int index) const = 0;
     virtual std::intptr_t send_message(WindowHandle window, std::uint32_t message, std::uintptr_t wparam,
                                        std::intptr_t lparam) = 0;
+    /// Puts a message behind those that wait already.
+    virtual void post_message(WindowHandle window, std::uint32_t message, std::uintptr_t wparam,
+                              std::intptr_t lparam) = 0;
     /// The 0-based item of a header window under a screen point, -1 for none.
     virtual std::int32_t header_item_at(WindowHandle header, PixelPoint screen) const = 0;
 };

@@ -61,6 +61,19 @@ TEST(List, ClosesWithF4ButNotWithModifiers) {
     EXPECT_EQ(combo.journal().take_events(), opened_and_closed);
 }
 
+TEST(List, ClosesWithTabWhichTheTextFieldHandsOn) {
+    for (const std::int16_t shift : Integers{0, 1}) {
+        DropDownCombo combo;
+        combo.drop_down().ShowList();
+        combo.journal().take_all();
+        combo.user.press_key_in_list(9, shift);
+        EXPECT_FALSE(combo.is_open());
+        const Lines lines = combo.journal().take_all();
+        ASSERT_FALSE(lines.empty());
+        EXPECT_EQ(lines.back(), "post text 0 0x0100 9 1");
+    }
+}
+
 TEST(List, OpensWithF4InTheTextField) {
     DropDownCombo combo;
     EXPECT_EQ(combo.user.press_key(115), 0);

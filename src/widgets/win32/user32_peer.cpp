@@ -78,6 +78,14 @@ int User32Peer::system_metric(int index) const {
     return GetSystemMetrics(index);
 }
 
+void User32Peer::post_message(WindowHandle window, std::uint32_t message, std::uintptr_t wparam,
+                              std::intptr_t lparam) {
+    // For the platform no window would mean the thread.
+    if (window != 0) {
+        PostMessageW(reinterpret_cast<HWND>(window), message, wparam, lparam);
+    }
+}
+
 std::intptr_t User32Peer::send_message(WindowHandle window, std::uint32_t message, std::uintptr_t wparam,
                                        std::intptr_t lparam) {
     return SendMessageW(as_window(window), message, wparam, lparam);

@@ -92,6 +92,12 @@ int HeadlessUser32::system_metric(int index) const {
     return 0;
 }
 
+void HeadlessUser32::post_message(WindowHandle window, std::uint32_t message, std::uintptr_t wparam,
+                                  std::intptr_t lparam) {
+    log("post " + desktop_.name(window) + " " + hexadecimal(message) + " " + std::to_string(wparam) + " " +
+        std::to_string(lparam));
+}
+
 std::intptr_t HeadlessUser32::send_message(WindowHandle window, std::uint32_t message, std::uintptr_t wparam,
                                            std::intptr_t lparam) {
     const bool carries_address =

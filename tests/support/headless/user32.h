@@ -26,6 +26,8 @@ public:
     void release_capture() override;
     PixelPoint cursor() const override { return desktop_.cursor; }
     int system_metric(int index) const override;
+    void post_message(WindowHandle window, std::uint32_t message, std::uintptr_t wparam,
+                      std::intptr_t lparam) override;
     std::intptr_t send_message(WindowHandle window, std::uint32_t message, std::uintptr_t wparam,
                                std::intptr_t lparam) override;
     std::int32_t header_item_at(WindowHandle header, PixelPoint screen) const override;
