@@ -1,6 +1,7 @@
 #include "support/form_host/commands.h"
 
 #include "support/container/call_by_name.h"
+#include "support/container/clipboard.h"
 #include "support/container/control_windows.h"
 #include "support/container/failure.h"
 #include "support/container/text.h"
@@ -129,6 +130,27 @@ Json set_focus(HostForm& host, const Json& command) {
     return nullptr;
 }
 
+// As an on-screen keyboard does: characters without keys, and those beyond 16 bits in two halves.
+Json type_characters(HostForm&, const Json& command) {
+    std::vector<INPUT> inputs;
+    for (const wchar_t unit : wide(command.must("text").text())) {
+        for (const DWORD release : {DWORD{0}, DWORD{KEYEVENTF_KEYUP}}) {
+            INPUT input{};
+            input.type = INPUT_KEYBOARD;
+            input.ki.wScan = unit;
+            input.ki.dwFlags = KEYEVENTF_UNICODE | release;
+            inputs.push_back(input);
+        }
+    }
+    return static_cast<long>(SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT)));
+}
+
+Json clipboard(HostForm&, const Json& command) {
+    if (const Json& text = command.get("text"); text.is_text())
+        set_clipboard_text(wide(text.text()));
+    return utf8(clipboard_text());
+}
+
 } // namespace
 
 Json carry_out(HostForm& host, const Json& command) {
@@ -152,6 +174,8 @@ Json carry_out(HostForm& host, const Json& command) {
                                                             {"destroy_form", destroy_form},
                                                             {"place", place},
                                                             {"set_focus", set_focus},
+                                                            {"type", type_characters},
+                                                            {"clipboard", clipboard},
                                                             {"rect", report_rect},
                                                             {"focus", report_focus},
                                                             {"caption", report_caption},
