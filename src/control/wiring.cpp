@@ -146,7 +146,7 @@ void Control::Wiring::surface_focus_left() {
     control_.drop_down_.UserControl_ExitFocus();
 }
 
-void Control::Wiring::surface_hidden() {
+void Control::Wiring::surface_withdrawn() {
     const auto held = hold();
     control_.drop_down_.subCloseDropDown();
 }

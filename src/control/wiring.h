@@ -55,7 +55,7 @@ private:
     void surface_resized() override;
     void surface_lost_focus() override;
     void surface_focus_left() override;
-    void surface_hidden() override;
+    void surface_withdrawn() override;
     void surface_destroyed() override;
 
     void form_disturbed() override;

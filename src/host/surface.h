@@ -15,8 +15,8 @@ public:
     virtual void surface_lost_focus() = 0;
     /// The focus left the control altogether, its open list included.
     virtual void surface_focus_left() = 0;
-    /// The container hides the control.
-    virtual void surface_hidden() = 0;
+    /// The control was hidden or disabled.
+    virtual void surface_withdrawn() = 0;
     /// The window goes, with those in it.
     virtual void surface_destroyed() = 0;
 
@@ -34,7 +34,7 @@ public:
 
     virtual void listen(SurfaceListener* listener) = 0;
     virtual WindowHandle window() const = 0;
-    /// Whether it stands on the screen: it and all that it stands in are visible.
+    /// Whether it stands on the screen: it and all that it stands in are visible, and its form is not minimised.
     virtual bool shown() const = 0;
     /// Outer size as the container reports it, and the width of the client area the constituents stand in.
     virtual float width() const = 0;

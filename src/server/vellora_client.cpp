@@ -107,7 +107,8 @@ com::Mnemonics VelloraClient::mnemonics() {
     return none;
 }
 
-void VelloraClient::on_mnemonic(const MSG&) {}
+// No key is announced, but a host that sends one wants the field.
+void VelloraClient::on_mnemonic(const MSG&) { SetFocus(window()); }
 
 bool VelloraClient::list_open() {
     return control_.state().mlStatic_hWnd != 0;

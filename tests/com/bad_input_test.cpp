@@ -283,5 +283,28 @@ TEST_F(BadInput, CallsInsideEveryEvent) {
     expect_sound();
 }
 
+// The platform's own caller would pass them on to the property's result, and fails where that is Nothing.
+TEST_F(BadInput, SurplusArgumentsAreRefused) {
+    IDispatch* const object = &c();
+    const std::string wrong_count = std::to_string(DISP_E_BADPARAMCOUNT); // scripts see 450
+    const auto number = [](auto call) {
+        try {
+            call();
+        } catch (const CallFailed& failed) {
+            return std::to_string(failed.failure().number());
+        }
+        return std::string("none");
+    };
+    const Variant surplus(1);
+    EXPECT_EQ(wrong_count, number([&] { get_property(object, L"Picture", {surplus}); }));
+    EXPECT_EQ(wrong_count, number([&] { get_property(object, L"Font", {surplus}); }));
+    EXPECT_EQ(wrong_count, number([&] { get_property(object, L"ListCount", {surplus}); }));
+    EXPECT_EQ(wrong_count, number([&] { get_property(object, L"ColumnHeader", {surplus, surplus}); }));
+    EXPECT_EQ(wrong_count, number([&] { put_property(object, L"Columns", Variant(2), {surplus}); }));
+    EXPECT_EQ(wrong_count, number([&] { call_method(object, L"Clear", {surplus}); }));
+    EXPECT_EQ("none", number([&] { get_property(object, L"ColumnHeader", {surplus}); }));
+    expect_sound();
+}
+
 } // namespace
 } // namespace vellora::test

@@ -37,6 +37,15 @@ TEST_F(TextFieldKeys, ArrowsAreItsOwnAndTabIsTheHosts) {
     EXPECT_EQ(S_OK, translate(VK_LEFT));
 }
 
+TEST_F(TextFieldKeys, AMnemonicThatAHostSendsMeansTheField) {
+    HWND other = make_edit();
+    SetFocus(other);
+    container_.pump();
+    MSG mnemonic{other, WM_SYSCHAR, 'C', 0, 0, {}};
+    EXPECT_EQ(S_OK, site().as<IOleControl>()->OnMnemonic(&mnemonic));
+    EXPECT_EQ(field(), GetFocus());
+}
+
 TEST_F(TextFieldKeys, KeysWithControlOrAltAreTheHostsFirst) {
     const Held held(VK_CONTROL);
     EXPECT_EQ(S_FALSE, translate(VK_DOWN));

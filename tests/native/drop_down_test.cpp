@@ -154,6 +154,15 @@ TEST(Opening, OfADisabledControlCanStillBeClosed) {
     EXPECT_EQ(combo.journal().take_events(), opened_and_closed);
 }
 
+TEST(Closing, ComesWithDisablingTheControl) {
+    DropDownCombo combo;
+    combo.drop_down().ShowList();
+    combo.appearance().put_Enabled(false);
+    EXPECT_FALSE(combo.is_open());
+    EXPECT_EQ(combo.journal().take_events(), opened_and_closed);
+    EXPECT_EQ(combo.button_look(), "raised");
+}
+
 TEST(Opening, OfAControlDisabledInADesignerWorksByMouse) {
     DropDownCombo combo(vlNormal, Mode::design);
     combo.appearance().put_Enabled(false); // in a designer only the text field: the button still opens

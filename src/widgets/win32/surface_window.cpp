@@ -48,6 +48,11 @@ SurfaceWindow::SurfaceWindow(HWND parking) {
     focus_tracker_.set_home(handle());
 }
 
+// A minimised form counts as visible.
+bool SurfaceWindow::shown() const {
+    return IsWindowVisible(handle()) != FALSE && IsIconic(GetAncestor(handle(), GA_ROOT)) == FALSE;
+}
+
 float SurfaceWindow::width() const {
     const RECT outer = outer_rect(handle());
     return twips_x(outer.right - outer.left);
@@ -122,8 +127,7 @@ LRESULT SurfaceWindow::on_message(HWND window, UINT message, WPARAM wparam, LPAR
     case WM_SIZE:
         return tell_resized();
     case WM_ENABLE:
-        RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
-        return 0;
+        return tell_enabled(window, wparam);
     case WM_NCPAINT:
         return paint_border(window, wparam, lparam);
     case WM_ERASEBKGND:
@@ -210,9 +214,17 @@ LRESULT SurfaceWindow::change_look(HWND window, UINT message, WPARAM wparam, LPA
 
 LRESULT SurfaceWindow::tell_shown(HWND window, WPARAM wparam, LPARAM lparam) {
     if (wparam == FALSE && listener_ != nullptr) {
-        listener_->surface_hidden();
+        listener_->surface_withdrawn();
     }
     return DefWindowProcW(window, WM_SHOWWINDOW, wparam, lparam);
+}
+
+LRESULT SurfaceWindow::tell_enabled(HWND window, WPARAM wparam) {
+    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
+    if (wparam == FALSE && listener_ != nullptr) {
+        listener_->surface_withdrawn();
+    }
+    return 0;
 }
 
 LRESULT SurfaceWindow::tell_resized() {

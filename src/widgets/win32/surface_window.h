@@ -44,7 +44,7 @@ public:
 
     void listen(SurfaceListener* listener) override { listener_ = listener; }
     WindowHandle window() const override { return reinterpret_cast<WindowHandle>(handle()); }
-    bool shown() const override { return IsWindowVisible(handle()) != FALSE; }
+    bool shown() const override;
     float width() const override;
     float height() const override;
     float client_width() const override;
@@ -68,6 +68,7 @@ private:
     LRESULT lose_focus(HWND next);
     LRESULT change_look(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
     LRESULT tell_shown(HWND window, WPARAM wparam, LPARAM lparam);
+    LRESULT tell_enabled(HWND window, WPARAM wparam);
     LRESULT tell_resized();
     LRESULT tell_destroyed();
     void focus_entered() override;

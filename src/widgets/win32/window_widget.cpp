@@ -31,10 +31,15 @@ bool is_window_shown(HWND window) {
 // at once, as the drop buttons do in turn, then shows no gap.
 void hide_window(HWND window) {
     const RECT place = window_place(window);
-    SendMessageW(window, WM_SHOWWINDOW, FALSE, 0); // as ShowWindow does
+    SendMessageW(window, WM_SHOWWINDOW, FALSE, 0); // this and the focus as ShowWindow does
     SetWindowPos(window, nullptr, 0, 0, 0, 0,
                  SWP_HIDEWINDOW | SWP_NOREDRAW | SWP_NOACTIVATE | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER);
-    RedrawWindow(GetAncestor(window, GA_PARENT), &place, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    const HWND parent = GetAncestor(window, GA_PARENT);
+    const HWND focus = GetFocus();
+    if (focus == window || IsChild(window, focus)) {
+        SetFocus(parent);
+    }
+    RedrawWindow(parent, &place, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void show_window(HWND window, bool show) {

@@ -35,6 +35,13 @@ void HeadlessSurface::resize(float width, float height) {
     }
 }
 
+void HeadlessSurface::set_enabled(bool value) {
+    enabled = value;
+    if (!value && listener_ != nullptr) {
+        listener_->surface_withdrawn();
+    }
+}
+
 void HeadlessSurface::set_height(float height) {
     if (grants_height && height != height_) {
         resize(width_, height);

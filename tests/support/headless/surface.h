@@ -28,7 +28,7 @@ public:
     float text_height(std::u16string_view text) const override;
     void set_font(const FontRef& new_font) override { font = new_font; }
     void set_back_color(OleColor color) override { back_color = color; }
-    void set_enabled(bool value) override { enabled = value; }
+    void set_enabled(bool value) override;
     void refresh() override { ++refresh_count; }
     void announce(Announcement what) override { announcements.push_back(what); }
     float twips_per_pixel_x() const override { return screen_.twips_per_pixel_x; }
