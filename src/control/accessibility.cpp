@@ -5,12 +5,20 @@
 
 namespace vellora {
 
+std::u16string Accessibility::name() const {
+    const auto held = core_.site.keep_alive();
+    return core_.site.display_name();
+}
+
 bool Accessibility::write(std::u16string_view text) {
     if (!core_.state.mbEnabled || core_.state.mbLocked) {
         return false;
     }
     const auto held = core_.site.keep_alive();
-    object_.put_Text(text);
+    if (!object_.may_change_text()) {
+        return false;
+    }
+    object_.write_text(text);
     return true;
 }
 

@@ -132,12 +132,12 @@ void DropDown::subShowListView() {
         return;
     }
     form_watch_.watch(core_.site.form_window());
-    core_.surface.announce(Announcement::list_opened_or_closed);
     opening_reported_ = true;
     core_.events.drop_down(DropDownState::open);
     // The handler may have closed this list again, or even opened another one.
     if (core_.state.mlStatic_hWnd == floating) {
         gbListOpen = true;
+        core_.surface.announce(Announcement::list_opened_or_closed);
     }
 }
 

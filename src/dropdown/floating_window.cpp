@@ -50,9 +50,12 @@ void FloatingWindow::subCreateDropDownWindow(const Bounds& bounds) {
     }
     const WindowHandle floating = state.mlStatic_hWnd;
     const WindowHandle list = core_.parts.ListView1.window();
+    // Both take the focus away from somebody, who may close the list at once.
     core_.user32.show_popup(floating);
+    if (state.mlStatic_hWnd != floating) {
+        return;
+    }
     core_.user32.set_focus(list);
-    // Whoever lost the focus to the list may have closed it already.
     if (state.mlStatic_hWnd != floating) {
         return;
     }

@@ -38,6 +38,9 @@ STDMETHODIMP AccessibleCombo::get_accRole(VARIANT child, VARIANT* role) noexcept
 }
 
 STDMETHODIMP AccessibleCombo::get_accState(VARIANT child, VARIANT* state) noexcept {
+    if (state == nullptr) {
+        return E_POINTER;
+    }
     const HRESULT known = AccessibleWindow::get_accState(child, state);
     if (FAILED(known) || !is_self(child) || state->vt != VT_I4) {
         return known;

@@ -3,25 +3,34 @@
 #include "com/bstr.h"
 #include "com/guard.h"
 
-#include <algorithm>
 #include <iterator>
 
 namespace vellora::server {
 
 namespace {
 
-// A label stands before what it names, and marks its access key.
+// One & marks the access key, two stand for one.
+std::u16string without_access_key(std::u16string_view caption) {
+    std::u16string name;
+    for (std::size_t i = 0; i < caption.size(); ++i) {
+        i += caption[i] == u'&' ? 1 : 0;
+        name.append(caption.substr(i, 1));
+    }
+    return name;
+}
+
+// A label stands before what it names.
 std::u16string label_before(HWND window) {
     const HWND label = GetWindow(window, GW_HWNDPREV);
     wchar_t kind[8];
-    if (label == nullptr || GetClassNameW(label, kind, std::size(kind)) == 0 || lstrcmpiW(kind, L"Static") != 0) {
+    if (label == nullptr || !IsWindowVisible(label) || GetClassNameW(label, kind, std::size(kind)) == 0 || lstrcmpiW(kind, L"Static") != 0) {
         return {};
     }
     wchar_t caption[256];
     const int length = GetWindowTextW(label, caption, std::size(caption));
-    std::u16string name(com::narrow_view({caption, static_cast<std::size_t>(length)}));
-    name.erase(std::remove(name.begin(), name.end(), u'&'), name.end());
-    return name;
+    const std::u16string_view whole = com::narrow_view({caption, static_cast<std::size_t>(length)});
+    const bool marks_key = (GetWindowLongPtrW(label, GWL_STYLE) & SS_NOPREFIX) == 0;
+    return marks_key ? without_access_key(whole) : std::u16string(whole);
 }
 
 } // namespace
@@ -68,9 +77,9 @@ STDMETHODIMP AccessibleWindow::get_accName(VARIANT child, BSTR* name) noexcept {
     return com::guard([&] {
         com::need(name);
         *name = nullptr;
-        const Accessibility& control = behaviour();
+        behaviour();
         const std::u16string label = label_before(control_.surface);
-        *name = com::make_bstr(label.empty() ? control.name() : label);
+        *name = com::make_bstr(label.empty() ? behaviour().name() : label);
     });
 }
 

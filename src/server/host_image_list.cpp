@@ -27,10 +27,28 @@ bool is_usable(HIMAGELIST list) {
     return is_readable(list) && ImageList_GetIconSize(list, &width, &height) && width > 0 && height > 0;
 }
 
+bool is_integer(VARTYPE type) {
+    switch (type) {
+    case VT_I1:
+    case VT_I2:
+    case VT_I4:
+    case VT_I8:
+    case VT_INT:
+    case VT_UI1:
+    case VT_UI2:
+    case VT_UI4:
+    case VT_UI8:
+    case VT_UINT:
+        return true;
+    default:
+        return false;
+    }
+}
+
 // Nothing for a value that is no whole number. Handles may come with their top bit as a sign.
 std::optional<std::int64_t> whole_number(const Variant& value) {
     Variant number;
-    if (value.is_object() || value.type() == VT_EMPTY || value.type() == VT_BSTR ||
+    if (value.is_object() || !is_integer(value.type()) ||
         FAILED(com::convert(value.get(), VT_I8, number))) {
         return std::nullopt;
     }

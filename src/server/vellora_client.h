@@ -47,7 +47,6 @@ private:
     void close_requested() override;
     void floating_window_left() override;
 
-    win32::Lifeline lifeline_;
     com::ControlHost& host_;
     win32::LocaleTextCompare compare_;
     ConstituentPeers peers_;
@@ -56,6 +55,7 @@ private:
     OwnLibrary library_;
     Control control_;
     DualVellora dual_;
+    win32::Lifeline lifeline_; // ends first: whoever watches it must not meet what is ending
 };
 
 } // namespace vellora::server

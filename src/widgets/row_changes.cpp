@@ -6,7 +6,7 @@ namespace vellora {
 
 void RowChanges::start() noexcept {
     noting_ = true;
-    noted_.empty();
+    noted_.remove_all();
     slots_.clear();
 }
 

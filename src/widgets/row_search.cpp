@@ -174,7 +174,7 @@ std::int32_t RowSearch::first_of_many(std::span<const std::uint32_t> slots, Ques
     std::int32_t row = quest.end;
     while (row < end && !(matching.has(rows_.slot(row)) && quest.accepts(rows_.record(row))))
         ++row;
-    matching.empty();
+    matching.remove_all();
     return row;
 }
 

@@ -21,7 +21,7 @@ public:
         words_[slot / word_bits] |= 1U << slot % word_bits;
     }
     /// Empties the set and keeps its memory.
-    void empty() noexcept { std::fill(words_.begin(), words_.end(), 0U); }
+    void remove_all() noexcept { std::fill(words_.begin(), words_.end(), 0U); }
     /// Empties the set and gives its memory back.
     void clear() noexcept { std::vector<std::uint32_t>().swap(words_); }
 

@@ -172,6 +172,19 @@ TEST(Opening, OfAControlDisabledInADesignerWorksByMouse) {
     EXPECT_EQ(combo.journal().take_events(), opened);
 }
 
+TEST(Opening, StopsWhenShowingTheWindowClosesTheList) {
+    DropDownCombo combo;
+    combo.user32.when_popup_shows = [&] { combo.drop_down().HideList(); };
+    combo.journal().take_all();
+    combo.drop_down().ShowList();
+    EXPECT_FALSE(combo.is_open());
+    EXPECT_EQ(combo.desktop().count("popup"), 0U);
+    EXPECT_EQ(combo.journal().take_events(), Lines{});
+    EXPECT_NE(combo.desktop().focus(), combo.list_view.window());
+    combo.user32.when_popup_shows = nullptr;
+    combo.expect_in_order();
+}
+
 TEST(Opening, StopsWhenTheFocusChangeClosesTheList) {
     DropDownCombo combo;
     combo.desktop().set_focus(combo.world().other);

@@ -8,7 +8,7 @@ HeaderHeight::~HeaderHeight() {
 }
 
 void HeaderHeight::require(int pixels) {
-    if (pixels == required_)
+    if (pixels == required_ && (header_ || pixels == 0))
         return;
     const HWND header = window_.header();
     if (!header_ && header &&

@@ -52,8 +52,8 @@ void ListHeaderIcons::renew() {
     for (std::int32_t column = 0; column < headers_.count(); ++column) {
         const std::u16string key = headers_.icon(column);
         const int found = key.empty() ? no_image : image(key);
-        // Asking runs the host's code, which may have taken columns away.
-        if (column < headers_.count())
+        // Asking runs the host's code, which may have taken columns away or changed the key.
+        if (column < headers_.count() && headers_.icon(column) == key)
             headers_.set_icon(column, key, found);
     }
 }

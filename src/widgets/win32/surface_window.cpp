@@ -48,9 +48,13 @@ SurfaceWindow::SurfaceWindow(HWND parking) {
     focus_tracker_.set_home(handle());
 }
 
-// A minimised form counts as visible.
+// What is in a minimised window counts as visible.
 bool SurfaceWindow::shown() const {
-    return IsWindowVisible(handle()) != FALSE && IsIconic(GetAncestor(handle(), GA_ROOT)) == FALSE;
+    HWND window = handle();
+    while (window != nullptr && IsIconic(window) == FALSE) {
+        window = GetAncestor(window, GA_PARENT);
+    }
+    return window == nullptr && IsWindowVisible(handle()) != FALSE;
 }
 
 float SurfaceWindow::width() const {

@@ -211,7 +211,8 @@ LRESULT TextBoxPeer::compose(const EditMessage& message) {
         return 0;
     }
     const LRESULT result = pass_on_quietly(message);
-    if (message.id == WM_IME_ENDCOMPOSITION || (message.lparam & GCS_RESULTSTR) != 0) {
+    const bool done = message.id == WM_IME_ENDCOMPOSITION || (message.lparam & GCS_RESULTSTR) != 0;
+    if (watch.alive() && done) {
         note_change();
     }
     return result;
@@ -224,14 +225,22 @@ LRESULT TextBoxPeer::paste(const EditMessage& message) {
         return 0;
     }
     const LRESULT result = pass_on_quietly(message);
-    drop_half_character();
-    note_change();
+    if (watch.alive()) {
+        drop_half_character();
+        note_change();
+    }
     return result;
 }
 
+// Pasting may ask the host for what it put on the clipboard, and that may end the text box.
 LRESULT TextBoxPeer::pass_on_quietly(const EditMessage& message) {
-    const RaisedFlag quiet(quiet_);
-    return edit_.pass_on(message);
+    const Lifeline::Watch watch(lifeline_);
+    quiet_ = true;
+    const LRESULT result = edit_.pass_on(message);
+    if (watch.alive()) {
+        quiet_ = false;
+    }
+    return result;
 }
 
 void TextBoxPeer::drop_half_character() {

@@ -27,20 +27,27 @@ bool is_window_shown(HWND window) {
     return (GetWindowLongPtrW(window, GWL_STYLE) & WS_VISIBLE) != 0;
 }
 
+namespace {
+
 // What is hidden leaves its picture until whatever lies behind it is painted: another window that takes its place
 // at once, as the drop buttons do in turn, then shows no gap.
 void hide_window(HWND window) {
     const RECT place = window_place(window);
+    const HWND parent = GetAncestor(window, GA_PARENT);
     SendMessageW(window, WM_SHOWWINDOW, FALSE, 0); // this and the focus as ShowWindow does
     SetWindowPos(window, nullptr, 0, 0, 0, 0,
                  SWP_HIDEWINDOW | SWP_NOREDRAW | SWP_NOACTIVATE | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER);
-    const HWND parent = GetAncestor(window, GA_PARENT);
     const HWND focus = GetFocus();
     if (focus == window || IsChild(window, focus)) {
         SetFocus(parent);
     }
-    RedrawWindow(parent, &place, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    // Without a window it would be the whole desktop.
+    if (IsWindow(parent)) {
+        RedrawWindow(parent, &place, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    }
 }
+
+} // namespace
 
 void show_window(HWND window, bool show) {
     if (show) {

@@ -40,6 +40,9 @@ WindowHandle HeadlessUser32::create_popup(const PixelRect& rect) {
 
 void HeadlessUser32::show_popup(WindowHandle window) {
     log("show " + desktop_.name(window));
+    if (when_popup_shows) {
+        when_popup_shows();
+    }
 }
 
 void HeadlessUser32::destroy_window(WindowHandle window) {

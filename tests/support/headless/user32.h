@@ -5,6 +5,7 @@
 #include "support/headless/desktop.h"
 #include "widgets/user32.h"
 
+#include <functional>
 #include <map>
 
 namespace vellora::test {
@@ -33,6 +34,8 @@ public:
     std::int32_t header_item_at(WindowHandle header, PixelPoint screen) const override;
 
     bool popups_fail = false;
+    /// Runs while a popup is shown, as the host's own code may.
+    std::function<void()> when_popup_shows;
     /// The window whose rectangle cannot be read.
     WindowHandle without_rect = 0;
     std::map<int, int> metrics{{system_metric::scroll_bar_height, 17},
