@@ -104,6 +104,14 @@ protected:
         PostMessageW(GetFocus(), WM_KEYDOWN, code, 1);
         dialog_.pump();
     }
+    // A display without a window manager may take a moment's focus change for another program's.
+    HWND focus_when_active() {
+        if (GetActiveWindow() == nullptr) {
+            SetActiveWindow(dialog_.form().window());
+            dialog_.pump();
+        }
+        return GetFocus();
+    }
     Lines take_commands() { return std::exchange(commands_, {}); }
 
     static constexpr int next_id = 101;
@@ -156,7 +164,7 @@ TEST_F(TextFieldInADialog, EnterAndEscapeAreTheDialogsUnlessTheListIsOpen) {
         ASSERT_NE(nullptr, floating_window());
         press(code);
         EXPECT_EQ(nullptr, floating_window());
-        EXPECT_EQ(field(), GetFocus());
+        EXPECT_EQ(field(), focus_when_active());
         EXPECT_EQ(Lines{}, take_commands());
     }
 }
@@ -167,7 +175,7 @@ TEST_F(TextFieldInADialog, TabLeavesAnOpenListForTheNextControl) {
     dialog_.pump();
     press(VK_TAB);
     EXPECT_EQ(nullptr, floating_window());
-    EXPECT_EQ(after, GetFocus());
+    EXPECT_EQ(after, focus_when_active());
 }
 
 // This container hands on no keys: its program asks the dialog manager only.
