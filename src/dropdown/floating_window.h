@@ -1,4 +1,5 @@
-// The window the drop-down floats in: made at each opening, filled with the list, emptied and destroyed at each closing.
+// The window the drop-down floats in: made at each opening, filled with the list, emptied and destroyed at each
+// closing.
 #pragma once
 
 #include "control/core.h"

@@ -1,5 +1,5 @@
-// The control as assistive software sees it: a combo box with a name, a value, and a list that opens and closes. The rows
-// of the open list are told by the platform's own list, which asks the store behind it.
+// The control as assistive software sees it: a combo box with a name, a value, and a list that opens and closes. The
+// rows of the open list are told by the platform's own list, which asks the store behind it.
 #pragma once
 
 #include "server/accessible_window.h"
@@ -19,7 +19,7 @@ public:
     STDMETHODIMP put_accValue(VARIANT child, BSTR value) noexcept override;
 };
 
-/// The answer to WM_GETOBJECT for the control's own window or its text box; zero where the platform's own answer serves.
+/// The answer to WM_GETOBJECT for the control's own window or its text box; zero where the platform's own serves.
 LRESULT accessible_object(HWND window, WPARAM wparam, LPARAM lparam, const AccessibleControl& control);
 
 } // namespace vellora::server

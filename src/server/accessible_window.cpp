@@ -23,7 +23,8 @@ std::u16string without_access_key(std::u16string_view caption) {
 std::u16string label_before(HWND window) {
     const HWND label = GetWindow(window, GW_HWNDPREV);
     wchar_t kind[8];
-    if (label == nullptr || !IsWindowVisible(label) || GetClassNameW(label, kind, std::size(kind)) == 0 || lstrcmpiW(kind, L"Static") != 0) {
+    if (label == nullptr || !IsWindowVisible(label) || GetClassNameW(label, kind, std::size(kind)) == 0 ||
+        lstrcmpiW(kind, L"Static") != 0) {
         return {};
     }
     wchar_t caption[256];

@@ -125,7 +125,8 @@ void VelloraClient::surface_focus_entered() { host_.request_ui_activation(); }
 void VelloraClient::surface_focus_left() { host_.focus_left(); }
 
 LRESULT VelloraClient::surface_object(HWND window, WPARAM wparam, LPARAM lparam) {
-    const AccessibleControl control{&control_.accessibility(), win32::Lifeline::Watch(lifeline_), peers_.surface.handle()};
+    const AccessibleControl control{&control_.accessibility(), win32::Lifeline::Watch(lifeline_),
+                                    peers_.surface.handle()};
     return accessible_object(window, wparam, lparam, control);
 }
 
