@@ -45,17 +45,21 @@ void ListMessages::header_notified(std::uintptr_t wParam, std::intptr_t lParam, 
         return;
     }
     if (code == notification::header_end_drag) {
-        column_dragged();
+        if (!column_dragged()) {
+            lRetVal = 1;
+        }
     } else if (begins_track(code) && refuses_divider(header)) {
         lRetVal = 1;
     }
 }
 
-void ListMessages::column_dragged() {
+bool ListMessages::column_dragged() {
+    const std::int16_t columns = core_.state.miColumns;
     core_.events.column_reorder();
     if (core_.state.mlStatic_hWnd != 0) {
         core_.user32.set_focus(core_.parts.ListView1.window());
     }
+    return core_.state.miColumns == columns;
 }
 
 bool ListMessages::refuses_divider(WindowHandle header) const {

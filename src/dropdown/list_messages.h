@@ -18,7 +18,8 @@ public:
 
 private:
     void header_notified(std::uintptr_t wParam, std::intptr_t lParam, std::intptr_t& lRetVal);
-    void column_dragged();
+    /// Whether the header may still carry out the new order: not when the program has made other columns meanwhile.
+    bool column_dragged();
     bool refuses_divider(WindowHandle header) const;
 
     ControlCore& core_;

@@ -132,5 +132,19 @@ TEST_F(ListColumnMessagesTest, TakesOnlyOrdersThatNameEachColumnOnce) {
     EXPECT_EQ((std::array<int, 3>{2, 0, 1}), order);
 }
 
+TEST_F(ListColumnMessagesTest, ANewOrderShowsInTheRowsToo) {
+    add_columns({u"a", u"b"});
+    add_rows(3);
+    show(300, 200);
+    UpdateWindow(window());
+    ASSERT_FALSE(GetUpdateRect(window(), nullptr, FALSE));
+    const std::array<int, 2> order{1, 0};
+    send(LVM_SETCOLUMNORDERARRAY, order.size(), order.data());
+    RECT stale{};
+    GetUpdateRect(window(), &stale, FALSE);
+    const POINT cell = point_in(1, LVIR_LABEL);
+    EXPECT_TRUE(PtInRect(&stale, cell));
+}
+
 } // namespace
 } // namespace vellora::test

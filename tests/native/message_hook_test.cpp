@@ -236,6 +236,18 @@ TEST(OpenListMessages, AreSeenOnlyWhileItIsOpen) {
     EXPECT_EQ(combo.journal().take_events(), (Lines{"DropDown(open)", "DropDown(closed)"}));
 }
 
+TEST(OpenListMessages, KeepANewOrderFromColumnsMadeMeanwhile) {
+    HeadlessControl combo;
+    combo.columns().put_Columns(3);
+    combo.drop_down().ShowList();
+    User user(combo);
+    EXPECT_TRUE(user.drop_header());
+    combo.events.on_column_reorder = [&] { combo.columns().put_Columns(2); };
+    EXPECT_FALSE(user.drop_header());
+    combo.events.on_column_reorder = [&] { combo.columns().put_ColumnWidth(1, 100); };
+    EXPECT_TRUE(user.drop_header());
+}
+
 TEST(OpenListMessages, TellOfADraggedHeader) {
     OpenList combo;
     combo.user.drop_header();

@@ -1,6 +1,7 @@
 #include "widgets/win32/list_column_messages.h"
 
 #include "widgets/win32/list_cell_text.h"
+#include "widgets/win32/window_widget.h"
 
 #include <algorithm>
 #include <vector>
@@ -114,12 +115,14 @@ LRESULT ListColumnMessages::set_width(const WindowMessage& message) {
     return TRUE;
 }
 
-// The window would accept an array in which columns are missing or come twice.
-std::optional<LRESULT> ListColumnMessages::set_order(const WindowMessage& message) const {
+// The window would accept an array in which columns are missing or come twice, and paints its headers only.
+LRESULT ListColumnMessages::set_order(const WindowMessage& message) const {
     const auto* const order = structure_at<const int>(message.lparam);
     if (!order || column_of(message) != headers_.count() || !is_order(order, headers_.count()))
         return FALSE;
-    return std::nullopt;
+    const LRESULT done = window_.native(message);
+    redraw(window_.handle());
+    return done;
 }
 
 // Nor does it compare the size of the array with what it knows to be there.

@@ -27,7 +27,7 @@ private:
     LRESULT set_column(const WindowMessage& message);
     LRESULT delete_column(const WindowMessage& message);
     LRESULT set_width(const WindowMessage& message);
-    std::optional<LRESULT> set_order(const WindowMessage& message) const;
+    LRESULT set_order(const WindowMessage& message) const;
     LRESULT get_order(const WindowMessage& message) const;
     std::optional<LRESULT> header_notification(const NMHDR* notification) const;
     bool has_column(std::int32_t column) const { return column >= 0 && column < headers_.count(); }

@@ -6,6 +6,7 @@
 #include "support/form_host/values.h"
 
 #include <VelloraCTL.h>
+#include <memory>
 #include <utility>
 
 namespace vellora::test {
@@ -83,8 +84,10 @@ std::vector<std::string> HostForm::take_events() {
 }
 
 void HostForm::react(const std::string& name, const std::string& event, Reaction reaction, int times) {
-    control(name).events().on(event, [reaction, left = times](EventArguments& arguments) mutable {
-        if (left-- > 0)
+    // Every raising works on a copy of its handler, so that the count has to be theirs together.
+    const auto left = std::make_shared<int>(times);
+    control(name).events().on(event, [reaction, left](EventArguments& arguments) {
+        if ((*left)-- > 0)
             reaction(arguments);
     });
 }

@@ -154,8 +154,8 @@ bool User::drag_divider(std::int32_t column, std::int32_t code) {
     return notify(code) != 1;
 }
 
-void User::drop_header() {
-    notify(notification::header_end_drag);
+bool User::drop_header() {
+    return notify(notification::header_end_drag) == 0;
 }
 
 std::intptr_t User::notify(std::int32_t code) {

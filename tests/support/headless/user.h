@@ -35,7 +35,8 @@ public:
     /// refused.
     bool drag_divider(std::int32_t column, std::int32_t code = notification::header_begin_track_ansi);
     /// Lets a dragged header go.
-    void drop_header();
+    /// Whether the header goes on to carry out the new order.
+    bool drop_header();
 
 private:
     HeadlessTextBox& text_box();
