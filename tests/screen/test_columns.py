@@ -62,13 +62,11 @@ class ReorderTest(ColumnTest):
 
     def test_to_the_left_and_back(self):
         self.open()
-        before = self.look("before")
         self.drag_header(3, onto=1)
         self.assertEqual([3, 1, 2], self.order())
         self.drag_header(3, onto=2)
         self.assert_events(REORDERED, REORDERED)
         self.assertEqual([1, 2, 3], self.order())
-        self.assert_same(before)
 
     def test_the_order_is_kept_for_the_next_opening(self):
         self.open()

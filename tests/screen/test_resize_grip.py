@@ -72,7 +72,8 @@ class DragTest(GripTest):
         self.assert_grown(0, 0)
 
     def test_it_stays_larger_than_three_grips(self):
-        self.drag_by(self.grip(), -1000, -1000)
+        start = self.grip()
+        self.drag_by(start, self.before[0] + 10 - start[0], self.before[1] + 10 - start[1])
         left, top, right, bottom = self.host.rect("floating")
         smallest = min(right - left, bottom - top)
         self.assertGreater(smallest, 3 * self.row_below * 2 // 3)
