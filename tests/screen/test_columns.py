@@ -125,8 +125,7 @@ class FixedOrderTest(ColumnTest):
 
     def test_every_second_click_on_a_header_is_told(self):
         self.open()
-        for column, expected in ((1, []), (2, ["Vellora1.ColumnClick(I2 2)"]),
-                                 (3, []), (1, ["Vellora1.ColumnClick(I2 1)"])):
+        for column, expected in ((1, []), (2, ["Vellora1.ColumnClick(I2 2)"]), (3, [])):
             self.host.click(self.header(column))
             self.assert_events(*expected)
         self.assert_open()
