@@ -123,11 +123,11 @@ class FixedOrderTest(ColumnTest):
         self.assert_open()
         self.assert_same(before)
 
-    def test_every_second_click_on_a_header_is_told(self):
+    def test_every_click_on_a_header_is_told_once(self):
         self.open()
-        for column, expected in ((1, []), (2, ["Vellora1.ColumnClick(I2 2)"]), (3, [])):
+        for column in (1, 2, 3, 1):
             self.host.click(self.header(column))
-            self.assert_events(*expected)
+            self.assert_events(f"Vellora1.ColumnClick(I2 {column})")
         self.assert_open()
 
     def test_clicks_on_headers_sort_nothing(self):
