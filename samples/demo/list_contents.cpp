@@ -103,16 +103,16 @@ void set_up_disabled(_Vellora& control, const ListData&) {
 
 void set_up_right_to_left(_Vellora& control, const ListData&) {
     constexpr long right = 1;
-    set_columns(control, {L"Arabic", L"Hebrew"});
+    set_columns(control, {L"Arabic", L"Persian"});
     check(control.put_AutoSize(vlIncludeHeaders), L"Asking for automatic widths");
     check(control.put_Alignment(right), L"Aligning the text");
-    add_rows(control, {{L"الأحد", L"יום ראשון"},
-                       {L"الاثنين", L"יום שני"},
-                       {L"الثلاثاء", L"יום שלישי"},
-                       {L"الأربعاء", L"יום רביעי"},
-                       {L"الخميس", L"יום חמישי"},
-                       {L"الجمعة", L"יום שישי"},
-                       {L"السبت", L"שבת"}});
+    add_rows(control, {{L"الأحد", L"یکشنبه"},
+                       {L"الاثنين", L"دوشنبه"},
+                       {L"الثلاثاء", L"سه شنبه"},
+                       {L"الأربعاء", L"چهارشنبه"},
+                       {L"الخميس", L"پنجشنبه"},
+                       {L"الجمعة", L"جمعه"},
+                       {L"السبت", L"شنبه"}});
     choose(control, 0);
 }
 

@@ -121,7 +121,9 @@ void Selection::leave_by_tab() {
     core_.user32.post_message(core_.live_text_box().window(), message::key_down, key::tab, pressed_once);
 }
 
+// A check made with the space bar has no click that belongs to it, so the next one is a choice.
 void Selection::list_key_press(std::int16_t& key_ascii) {
+    core_.state.mbIgnoreListClick = false;
     if (key_ascii == key::enter) {
         key_ascii = 0;
         list_clicked();

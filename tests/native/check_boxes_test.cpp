@@ -85,6 +85,17 @@ TEST(Checked, ByTheUserIsRaisedOnceAndSelectsNothing) {
     EXPECT_FALSE(combo.state().mbIgnoreListClick);
 }
 
+TEST(Checked, ByTheSpaceBarLeavesTheNextClickAlone) {
+    FourRows combo;
+    ListViewListener& list = *combo.list_view.listener();
+    list.list_item_checked(2);
+    std::int16_t space = u' ';
+    list.list_key_press(space);
+    EXPECT_EQ(space, u' ');
+    combo.user.click_row(1);
+    EXPECT_EQ(combo.selection().ListIndex(), 1);
+}
+
 TEST(Checked, ByTheUserCanBeCancelledToo) {
     FourRows combo;
     combo.events.on_item_check = [](std::int16_t, bool, bool& cancel) { cancel = true; };
