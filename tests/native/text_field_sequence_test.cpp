@@ -1,7 +1,6 @@
 // Whole sequences of events around typing: what a program's handlers make of keys, limits, locks and
 // refusals.
-#include "support/headless/headless_control.h"
-#include "support/headless/user.h"
+#include "native/fruit.h"
 
 #include <gtest/gtest.h>
 
@@ -12,23 +11,10 @@ namespace {
 constexpr std::int16_t letter_a = 65;
 constexpr std::int16_t down = 40;
 
-/// Rows Apple, apricot, Banana; completion on; everything selected, so that typing starts afresh.
-struct Typing : HeadlessControl {
-    Typing() {
-        for (const char16_t* name : {u"Apple", u"apricot", u"Banana"}) {
-            add(name);
-        }
-        text_field().put_AutoComplete(true);
-        user.click_text();
-        journal().take_all();
-    }
-    User user{*this};
-};
-
 } // namespace
 
 TEST(TypingSequence, AKeyMadeAnArrowSteps) {
-    Typing combo;
+    Fruit combo;
     combo.events.on_key_down = [](std::int16_t& key_code, std::int16_t&) { key_code = down; };
     EXPECT_EQ(combo.user.press_key(letter_a), 0);
     EXPECT_EQ(combo.journal().take_events(), (Lines{"KeyDown(65, 0)", "Click", "KeyUp(65, 0)"}));
@@ -36,7 +22,7 @@ TEST(TypingSequence, AKeyMadeAnArrowSteps) {
 }
 
 TEST(TypingSequence, AnArrowMadeAnotherKeyIsThatKey) {
-    Typing combo;
+    Fruit combo;
     combo.events.on_key_down = [](std::int16_t& key_code, std::int16_t&) { key_code = letter_a; };
     EXPECT_EQ(combo.user.press_key(down), letter_a);
     EXPECT_EQ(combo.journal().take_events(), (Lines{"KeyDown(40, 0)", "KeyUp(40, 0)"}));
@@ -44,7 +30,7 @@ TEST(TypingSequence, AnArrowMadeAnotherKeyIsThatKey) {
 }
 
 TEST(TypingSequence, ACharacterMadeAnotherIsCompletedAsThat) {
-    Typing combo;
+    Fruit combo;
     combo.events.on_key_press = [](std::int16_t& key_ascii) { key_ascii = u'b'; };
     combo.user.type(u"a");
     EXPECT_EQ(combo.journal().take_events(),
@@ -53,7 +39,7 @@ TEST(TypingSequence, ACharacterMadeAnotherIsCompletedAsThat) {
 }
 
 TEST(TypingSequence, EveryHandlerOfACompletionSeesTheCompletedText) {
-    Typing combo;
+    Fruit combo;
     std::vector<std::u16string> seen;
     const auto look = [&] { seen.push_back(combo.object().Text()); };
     combo.events.on_click = look;
@@ -63,7 +49,7 @@ TEST(TypingSequence, EveryHandlerOfACompletionSeesTheCompletedText) {
 }
 
 TEST(TypingSequence, AWholeWordAndItsDeletion) {
-    Typing combo;
+    Fruit combo;
     combo.user.type(u"apr");
     EXPECT_EQ(combo.journal().take_events(),
               (Lines{"KeyDown(65, 0)", "KeyPress(97)", "Click", "Change", "Change", "KeyUp(65, 0)",
@@ -84,7 +70,7 @@ TEST(TypingSequence, AWholeWordAndItsDeletion) {
 }
 
 TEST(TypingSequence, DeletionsAreChangesWithoutCompletion) {
-    Typing combo;
+    Fruit combo;
     combo.text_field().put_AutoComplete(false);
     combo.user.type(u"x");
     combo.user.press_backspace();
@@ -94,7 +80,7 @@ TEST(TypingSequence, DeletionsAreChangesWithoutCompletion) {
 }
 
 TEST(TypingSequence, CompletionIsCutAtTheMaximalLength) {
-    Typing combo;
+    Fruit combo;
     combo.text_properties().put_MaxLength(3);
     combo.user.type(u"ap");
     EXPECT_EQ(combo.object().Text(), u"App");
@@ -107,7 +93,7 @@ TEST(TypingSequence, CompletionIsCutAtTheMaximalLength) {
 }
 
 TEST(TypingSequence, ALockedFieldTakesNoLetterButStepsThroughTheRows) {
-    Typing combo;
+    Fruit combo;
     combo.text_properties().put_Locked(true);
     combo.journal().take_all();
     combo.user.type(u"b");
@@ -120,7 +106,7 @@ TEST(TypingSequence, ALockedFieldTakesNoLetterButStepsThroughTheRows) {
 
 // A form that moves the focus on Enter gets the key-up itself.
 TEST(TypingSequence, AKeyLetGoElsewhereIsNoLongerDown) {
-    Typing combo;
+    Fruit combo;
     std::int16_t key = 13;
     std::int16_t shift = 0;
     combo.text_box(0).listener()->text_key_down(key, shift);
@@ -131,7 +117,7 @@ TEST(TypingSequence, AKeyLetGoElsewhereIsNoLongerDown) {
 }
 
 TEST(TypingSequence, AHandlerMayRewriteTheTextAndIsNotAskedForever) {
-    Typing combo;
+    Fruit combo;
     int changes = 0;
     combo.events.on_change = [&] {
         ++changes;
@@ -143,7 +129,7 @@ TEST(TypingSequence, AHandlerMayRewriteTheTextAndIsNotAskedForever) {
 }
 
 TEST(ARefusingHost, KeepsItsTextFromTheUser) {
-    Typing combo;
+    Fruit combo;
     combo.site.refused = u"Text";
     combo.user.type(u"b");
     combo.user.press_delete();
@@ -153,7 +139,7 @@ TEST(ARefusingHost, KeepsItsTextFromTheUser) {
 }
 
 TEST(ARefusingHost, KeepsItsTextFromAProgram) {
-    Typing combo;
+    Fruit combo;
     combo.site.refused = u"Text";
     combo.object().put_Text(u"other");
     EXPECT_EQ(combo.object().Text(), u"Vellora1");
@@ -161,7 +147,7 @@ TEST(ARefusingHost, KeepsItsTextFromAProgram) {
 }
 
 TEST(ARefusingHost, GetsTheTextOfTheRowItsUserChooses) {
-    Typing combo;
+    Fruit combo;
     combo.site.refused = u"Text";
     combo.user.press_key(down);
     EXPECT_EQ(combo.object().Text(), u"Apple");

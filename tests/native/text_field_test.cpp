@@ -1,6 +1,5 @@
 // Keys, typing and completion in the text field, and what of it reaches the program.
-#include "support/headless/headless_control.h"
-#include "support/headless/user.h"
+#include "native/fruit.h"
 
 #include <gtest/gtest.h>
 
@@ -11,19 +10,6 @@ namespace {
 constexpr std::int16_t up = 38;
 constexpr std::int16_t down = 40;
 constexpr std::int16_t f4 = 115;
-
-/// Rows Apple, apricot, Banana; completion on; everything selected, so that typing starts afresh.
-struct Fruit : HeadlessControl {
-    Fruit() {
-        for (const char16_t* name : {u"Apple", u"apricot", u"Banana"}) {
-            add(name);
-        }
-        text_field().put_AutoComplete(true);
-        user.click_text();
-        journal().take_all();
-    }
-    User user{*this};
-};
 
 } // namespace
 
