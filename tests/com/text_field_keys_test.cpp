@@ -205,6 +205,14 @@ TEST_F(TextFieldKeys, InTheAtlContainerKeysGoTheDialogsWay) {
     EXPECT_EQ(other, GetFocus());
     press(VK_TAB);
     EXPECT_EQ(text_field(window), GetFocus());
+    for (const WPARAM code : {VK_RETURN, VK_ESCAPE}) {
+        vellora->ShowList();
+        dialog.pump();
+        ASSERT_NE(nullptr, floating_window());
+        press(code);
+        EXPECT_EQ(nullptr, floating_window());
+        EXPECT_EQ(text_field(window), GetFocus());
+    }
     vellora->ShowList();
     dialog.pump();
     press(VK_TAB);
