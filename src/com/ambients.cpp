@@ -1,7 +1,7 @@
 #include "com/ambients.h"
 
 #include "com/bstr.h"
-#include "com/default_property.h"
+#include "com/object_property.h"
 #include "com/guard.h"
 
 #include <cstdlib>

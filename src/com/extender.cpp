@@ -2,7 +2,7 @@
 
 #include "com/bstr.h"
 #include "com/control_size.h"
-#include "com/default_property.h"
+#include "com/object_property.h"
 
 #include <cmath>
 #include <cstdint>

@@ -1,7 +1,7 @@
 #include "server/host_image_list.h"
 
 #include "com/bstr.h"
-#include "com/default_property.h"
+#include "com/object_property.h"
 
 namespace vellora::server {
 
