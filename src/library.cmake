@@ -79,7 +79,7 @@ set_target_properties(VelloraCTL PROPERTIES
   RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}
   ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/import)
 target_link_libraries(VelloraCTL PRIVATE vellora_win32 vellora_com vellora_idl
-  ole32 oleaut32 uuid comctl32 gdi32 user32 advapi32 uxtheme imm32 oleacc shlwapi version)
+  ole32 oleaut32 uuid comctl32 comdlg32 gdi32 user32 advapi32 uxtheme imm32 oleacc shlwapi version)
 
 # Failures of the standard library without their messages: see server/lean_runtime.cpp.
 foreach(function _ZSt17__throw_bad_allocv _ZSt28__throw_bad_array_new_lengthv _ZSt20__throw_length_errorPKc

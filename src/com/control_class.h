@@ -1,7 +1,7 @@
 // What is the same for all instances of a control: its identifiers and names.
 #pragma once
 
-#include "com/ole.h"
+#include "com/page_class.h"
 
 namespace vellora::com {
 
@@ -12,6 +12,8 @@ struct ControlClass {
     IID events_interface;
     /// "Name of the control" as containers show it; also stands in for the name of an instance.
     const wchar_t* user_type;
+    /// Its property pages, in the order they are shown.
+    std::span<const PageClass> pages = {};
 };
 
 /// How containers have to treat the control (OLEMISC).

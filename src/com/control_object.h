@@ -56,7 +56,7 @@ private:
     QuickActivation quick_activation_{host_};
     ClassInfo class_info_{host_};
     ErrorInfo error_info_{host_};
-    SpecifyPages specify_pages_{host_.controlling()};
+    SpecifyPages specify_pages_{host_};
     PropertyBrowsing property_browsing_{host_};
     PropertyCategories property_categories_{host_};
     ObjectSafety object_safety_{host_};

@@ -2,43 +2,12 @@
 
 #include "com/bstr.h"
 #include "com/control_host.h"
-#include "com/default_property.h"
-#include "com/type_owners.h"
+#include "com/object_property.h"
+#include "com/task_array.h"
 
 #include <algorithm>
-#include <memory>
 
 namespace vellora::com {
-
-namespace {
-
-std::u16string name_of(ITypeInfo* type, MEMBERID id) {
-    Bstr name;
-    UINT count = 0;
-    check(type->GetNames(id, name.put(), 1, &count));
-    return std::u16string(name.view());
-}
-
-std::u16string choice_text(std::int32_t value, const std::u16string& name) {
-    return std::u16string(narrow_view(std::to_wstring(value))) + u" - " + name;
-}
-
-struct TaskDeleter {
-    void operator()(void* memory) const noexcept { CoTaskMemFree(memory); }
-};
-template <class Element>
-using TaskArray = std::unique_ptr<Element[], TaskDeleter>;
-
-template <class Element>
-TaskArray<Element> make_task_array(std::size_t count) {
-    TaskArray<Element> array(static_cast<Element*>(CoTaskMemAlloc(count * sizeof(Element))));
-    if (!array)
-        throw std::bad_alloc();
-    std::fill_n(array.get(), count, Element{});
-    return array;
-}
-
-} // namespace
 
 PropertyBrowsing::PropertyBrowsing(ControlHost& host) : Delegating(host.controlling()), host_(host) {}
 
@@ -60,10 +29,17 @@ STDMETHODIMP PropertyBrowsing::GetDisplayString(DISPID property, BSTR* text) noe
     });
 }
 
-STDMETHODIMP PropertyBrowsing::MapPropertyToPage(DISPID, CLSID* page) noexcept {
+// What has an argument cannot be a line of a property list; everything else is better off there.
+STDMETHODIMP PropertyBrowsing::MapPropertyToPage(DISPID property, CLSID* page) noexcept {
     return guard([&] {
         need(page);
         *page = CLSID_NULL;
+        for (const PageClass& candidate : host_.control_class().pages)
+            for (const DISPID numbered : candidate.numbered_properties)
+                if (numbered == property) {
+                    *page = candidate.class_id;
+                    return S_OK;
+                }
         return PERPROP_E_NOPAGEAVAILABLE;
     });
 }
@@ -100,20 +76,10 @@ STDMETHODIMP PropertyBrowsing::GetPredefinedValue(DISPID, DWORD cookie, VARIANT*
     });
 }
 
-std::vector<PropertyBrowsing::Choice> PropertyBrowsing::choices(DISPID property) const {
-    std::vector<Choice> list;
+std::vector<Choice> PropertyBrowsing::choices(DISPID property) const {
     const Member* const member =
         host_.types()->default_interface().members.find(property, DISPATCH_PROPERTYGET);
-    if (!member || !member->enumeration)
-        return list;
-    ITypeInfo* const type = member->enumeration.Get();
-    const TypeAttributes attributes(type);
-    for (UINT i = 0; i < attributes->cVars; ++i) {
-        const VariableDescription variable(type, i);
-        const std::int32_t value = V_I4(&converted(*variable->lpvarValue, VT_I4).get());
-        list.push_back({value, choice_text(value, name_of(type, variable->memid))});
-    }
-    return list;
+    return choices_of(member ? member->enumeration.Get() : nullptr);
 }
 
 std::int32_t PropertyBrowsing::current_value(DISPID property) const {

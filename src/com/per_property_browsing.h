@@ -3,9 +3,7 @@
 #pragma once
 
 #include "com/delegating.h"
-
-#include <string>
-#include <vector>
+#include "com/enumeration.h"
 
 namespace vellora::com {
 
@@ -21,12 +19,6 @@ public:
     STDMETHODIMP GetPredefinedValue(DISPID property, DWORD cookie, VARIANT* value) noexcept override;
 
 private:
-    /// Shown as "0 - Name".
-    struct Choice {
-        std::int32_t value = 0;
-        std::u16string text;
-    };
-
     std::vector<Choice> choices(DISPID property) const;
     std::int32_t current_value(DISPID property) const;
 

@@ -1,20 +1,20 @@
-// ISpecifyPropertyPages: the control has none of its own; its properties are in the container's list.
+// ISpecifyPropertyPages: which pages a design tool shows for the control.
 #pragma once
 
 #include "com/delegating.h"
 
 namespace vellora::com {
 
+class ControlHost;
+
 class SpecifyPages final : public Delegating<ISpecifyPropertyPages> {
 public:
-    explicit SpecifyPages(IUnknown* controlling) : Delegating(controlling) {}
+    explicit SpecifyPages(ControlHost& host);
 
-    STDMETHODIMP GetPages(CAUUID* pages) noexcept override {
-        if (!pages)
-            return E_POINTER;
-        *pages = {};
-        return S_OK;
-    }
+    STDMETHODIMP GetPages(CAUUID* pages) noexcept override;
+
+private:
+    ControlHost& host_;
 };
 
 } // namespace vellora::com

@@ -1,6 +1,11 @@
 #include "com/verbs.h"
 
+#include "com/bstr.h"
 #include "com/control_host.h"
+
+#include <algorithm>
+#include <iterator>
+#include <vector>
 
 namespace vellora::com {
 
@@ -30,6 +35,20 @@ void hide(ControlHost& host) {
     ShowWindow(host.client().window(), SW_HIDE);
 }
 
+/// The container's own property window, otherwise one of the platform.
+HRESULT show_properties(ControlHost& host, HWND parent) {
+    if (const ComPtr<IOleControlSite> site = host.site().control_site(); site && SUCCEEDED(site->ShowPropertyFrame()))
+        return S_OK;
+    if (host.control_class().pages.empty())
+        return E_NOTIMPL;
+    std::vector<CLSID> pages;
+    std::ranges::transform(host.control_class().pages, std::back_inserter(pages), &PageClass::class_id);
+    IUnknown* object = host.controlling();
+    const std::u16string name = host.display_name();
+    return OleCreatePropertyFrame(parent, 0, 0, wide(name.c_str()), 1, &object, static_cast<ULONG>(pages.size()),
+                                  pages.data(), LOCALE_USER_DEFAULT, 0, nullptr);
+}
+
 } // namespace
 
 HRESULT do_verb(ControlHost& host, LONG verb, const Activation::Proposal& proposal) {
@@ -48,6 +67,8 @@ HRESULT do_verb(ControlHost& host, LONG verb, const Activation::Proposal& propos
     case OLEIVERB_HIDE:
         hide(host);
         return S_OK;
+    case OLEIVERB_PROPERTIES:
+        return show_properties(host, proposal.parent);
     default:
         if (verb < 0)
             return E_NOTIMPL;

@@ -2,15 +2,22 @@
 
 #include "com/control_object.h"
 #include "com/guard.h"
+#include "com/property_page.h"
 #include "server/module.h"
+
+#include <algorithm>
 
 namespace vellora::server {
 
-HRESULT ClassFactory::create(REFIID id, void** out) noexcept {
+HRESULT ClassFactory::create(REFCLSID class_id, REFIID id, void** out) noexcept {
     return com::guard([&] {
         com::need(out);
         *out = nullptr;
-        const auto factory = com::adopt<IClassFactory>(new ClassFactory);
+        const std::span<const com::PageClass> pages = module().control.pages;
+        const auto page = std::ranges::find(pages, class_id, &com::PageClass::class_id);
+        if (page == pages.end() && class_id != module().control.class_id)
+            return CLASS_E_CLASSNOTAVAILABLE;
+        const auto factory = com::adopt<IClassFactory>(new ClassFactory(page == pages.end() ? nullptr : &*page));
         return factory->QueryInterface(id, out);
     });
 }
@@ -38,6 +45,8 @@ STDMETHODIMP_(ULONG) ClassFactory::Release() noexcept {
 }
 
 STDMETHODIMP ClassFactory::CreateInstance(IUnknown* outer, REFIID id, void** out) noexcept {
+    if (page_)
+        return com::PropertyPage::create(*page_, outer, id, out);
     return com::ControlObject::create(module().control, module().make_client, outer, id, out);
 }
 

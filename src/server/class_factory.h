@@ -1,8 +1,8 @@
-// IClassFactory of the control.
+// IClassFactory of the control and of its property pages.
 #pragma once
 
 #include "com/live_object.h"
-#include "com/ole.h"
+#include "com/page_class.h"
 
 #include <atomic>
 
@@ -10,7 +10,8 @@ namespace vellora::server {
 
 class ClassFactory final : public IClassFactory {
 public:
-    static HRESULT create(REFIID id, void** out) noexcept;
+    /// CLASS_E_CLASSNOTAVAILABLE for a class that is not of this library.
+    static HRESULT create(REFCLSID class_id, REFIID id, void** out) noexcept;
 
     STDMETHODIMP QueryInterface(REFIID id, void** out) noexcept override;
     STDMETHODIMP_(ULONG) AddRef() noexcept override;
@@ -19,9 +20,11 @@ public:
     STDMETHODIMP LockServer(BOOL lock) noexcept override;
 
 private:
-    ClassFactory() = default;
+    /// Of the page, or without one of the control.
+    explicit ClassFactory(const com::PageClass* page) noexcept : page_(page) {}
     ~ClassFactory() = default;
 
+    const com::PageClass* page_;
     com::LiveObject alive_;
     std::atomic<ULONG> references_ = 1;
 };

@@ -1,5 +1,6 @@
 // What this library is made of: the one control it offers, and who makes it.
 #include "server/module.h"
+#include "server/property_pages.h"
 #include "server/vellora_client.h"
 
 namespace vellora::server {
@@ -19,7 +20,7 @@ const Module& module() noexcept {
                                 LIBID_VelloraCTL,
                                 1,
                                 0,
-                                {CLSID_Vellora, IID__Vellora, DIID___Vellora, L"Vellora"},
+                                {CLSID_Vellora, IID__Vellora, DIID___Vellora, L"Vellora", property_pages()},
                                 L"VelloraCTL.Vellora",
                                 L"VelloraCTL.Vellora.1",
                                 toolbox_bitmap,

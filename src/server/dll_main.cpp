@@ -34,9 +34,7 @@ STDAPI DllGetClassObject(REFCLSID class_id, REFIID id, void** out) {
     if (!out)
         return E_POINTER;
     *out = nullptr;
-    if (class_id != server::module().control.class_id)
-        return CLASS_E_CLASSNOTAVAILABLE;
-    return server::ClassFactory::create(id, out);
+    return server::ClassFactory::create(class_id, id, out);
 }
 
 STDAPI DllCanUnloadNow() {

@@ -99,6 +99,8 @@ void remove_program_ids(Scope scope) {
 void write_everything(Scope scope) {
     for (const RegistryEntry& entry : class_entries())
         write(scope, entry);
+    for (const RegistryEntry& entry : page_entries())
+        write(scope, entry);
     for (const RegistryEntry& entry : program_id_entries())
         write(scope, entry);
     register_type_library(scope);
@@ -120,6 +122,8 @@ void unregister_server(Scope scope) {
         return;
     unregister_type_library(scope);
     remove(scope, class_key());
+    for (const std::wstring& key : page_keys())
+        remove(scope, key);
     if (!other_bitness_registered(scope))
         remove_program_ids(scope);
 }

@@ -1,8 +1,12 @@
 #include "server/registry_entries.h"
 
-#include "com/ole.h"
+#include "com/bstr.h"
 #include "com/type_library.h"
+#include "runtime/decimal.h"
 #include "server/module.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace vellora::server {
 
@@ -14,8 +18,12 @@ std::wstring text_of(REFGUID id) {
     return text;
 }
 
+std::wstring text_of(std::intptr_t number) {
+    return com::wide(to_decimal(number));
+}
+
 std::wstring version() {
-    return std::to_wstring(module().major) + L"." + std::to_wstring(module().minor);
+    return text_of(module().major) + L"." + text_of(module().minor);
 }
 
 constexpr GUID category_control = {
@@ -27,30 +35,57 @@ constexpr GUID category_property_bag = {
 constexpr GUID category_stream_init = {
     0x0DE86A53, 0x2BAA, 0x11CF, {0xA2, 0x29, 0x00, 0xAA, 0x00, 0x3D, 0x73, 0x52}};
 
+std::wstring key_of(const CLSID& class_id) {
+    return L"CLSID\\" + text_of(class_id);
+}
+
+std::vector<RegistryEntry> server_entries(const std::wstring& key) {
+    const std::wstring server = key + L"\\InprocServer32";
+    return {{server, L"", com::module_path()}, {server, L"ThreadingModel", L"Apartment"}};
+}
+
+std::wstring page_name(const com::PageClass& page) {
+    return module().control.user_type + std::wstring(L" property page ") + page.title;
+}
+
 } // namespace
 
 std::wstring class_key() {
-    return L"CLSID\\" + text_of(module().control.class_id);
+    return key_of(module().control.class_id);
+}
+
+std::vector<std::wstring> page_keys() {
+    std::vector<std::wstring> keys;
+    for (const com::PageClass& page : module().control.pages)
+        keys.push_back(key_of(page.class_id));
+    return keys;
+}
+
+std::vector<RegistryEntry> page_entries() {
+    std::vector<RegistryEntry> entries;
+    for (const com::PageClass& page : module().control.pages) {
+        const std::wstring key = key_of(page.class_id);
+        entries.push_back({key, L"", page_name(page)});
+        std::ranges::move(server_entries(key), std::back_inserter(entries));
+    }
+    return entries;
 }
 
 std::vector<RegistryEntry> class_entries() {
     const std::wstring key = class_key();
-    const std::wstring server = key + L"\\InprocServer32";
-    const std::wstring path = com::module_path();
     std::vector<RegistryEntry> entries = {
         {key, L"", module().control.user_type},
-        {server, L"", path},
-        {server, L"ThreadingModel", L"Apartment"},
         {key + L"\\ProgID", L"", module().versioned_program_id},
         {key + L"\\VersionIndependentProgID", L"", module().program_id},
         {key + L"\\TypeLib", L"", text_of(module().type_library)},
         {key + L"\\Version", L"", version()},
         {key + L"\\MiscStatus", L"", L"0"},
-        {key + L"\\MiscStatus\\1", L"", std::to_wstring(com::misc_status)},
-        {key + L"\\ToolboxBitmap32", L"", path + L", " + std::to_wstring(module().toolbox_bitmap)},
+        {key + L"\\MiscStatus\\1", L"", text_of(com::misc_status)},
+        {key + L"\\ToolboxBitmap32", L"", com::module_path() + L", " + text_of(module().toolbox_bitmap)},
         {key + L"\\Control", L"", L""},
         {key + L"\\Programmable", L"", L""},
     };
+    std::ranges::move(server_entries(key), std::back_inserter(entries));
     for (const GUID& category :
          {category_control, category_programmable, category_property_bag, category_stream_init})
         entries.push_back({key + L"\\Implemented Categories\\" + text_of(category), L"", L""});

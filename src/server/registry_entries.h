@@ -18,6 +18,9 @@ struct RegistryEntry {
 std::wstring class_key();
 
 std::vector<RegistryEntry> class_entries();
+/// The same for its property pages.
+std::vector<std::wstring> page_keys();
+std::vector<RegistryEntry> page_entries();
 /// The names scripts create the control by, which lead to the class.
 std::vector<RegistryEntry> program_id_entries();
 

@@ -1,20 +1,13 @@
 // Version and About of the real library: the texts come from its version resource, the box is modal over the
 // form.
+#include "com/support/box_watcher.h"
 #include "com/support/host_test.h"
 #include "support/container/call_by_name.h"
 #include "support/container/library.h"
 #include "support/container/text.h"
 
-#include <functional>
-
 namespace vellora::test {
 namespace {
-
-std::wstring text_of(HWND window) {
-    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
-    return text;
-}
 
 /// The library's title and numbers as its file tells them to anybody.
 struct FileVersion {
@@ -44,48 +37,6 @@ struct FileVersion {
     int minor = 0;
     int revision = 0;
 };
-
-/// Looks for a dialog of this thread while messages run, and does something with each new one.
-class BoxWatcher {
-public:
-    using Reaction = std::function<void(HWND box)>;
-
-    explicit BoxWatcher(Reaction reaction) : reaction_(std::move(reaction)) {
-        watcher_ = this;
-        timer_ = SetTimer(nullptr, 0, 10, look);
-    }
-    ~BoxWatcher() {
-        KillTimer(nullptr, timer_);
-        watcher_ = nullptr;
-    }
-    BoxWatcher(const BoxWatcher&) = delete;
-    BoxWatcher& operator=(const BoxWatcher&) = delete;
-    int boxes() const { return boxes_; }
-
-private:
-    static void CALLBACK look(HWND, UINT, UINT_PTR, DWORD) {
-        EnumThreadWindows(GetCurrentThreadId(), meet, 0);
-    }
-    static BOOL CALLBACK meet(HWND window, LPARAM) {
-        wchar_t name[16] = {};
-        GetClassNameW(window, name, 16);
-        if (std::wstring(name) != L"#32770" || !IsWindowVisible(window) || GetPropW(window, L"met"))
-            return TRUE;
-        SetPropW(window, L"met", watcher_);
-        ++watcher_->boxes_;
-        watcher_->reaction_(window);
-        return FALSE;
-    }
-
-    static inline BoxWatcher* watcher_ = nullptr;
-    Reaction reaction_;
-    UINT_PTR timer_ = 0;
-    int boxes_ = 0;
-};
-
-void press_ok(HWND box) {
-    PostMessageW(box, WM_COMMAND, IDOK, 0);
-}
 
 class AboutTest : public HostTest {
 protected:

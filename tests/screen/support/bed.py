@@ -6,6 +6,7 @@ import json
 import os
 import re
 import subprocess
+import threading
 import time
 import unittest
 
@@ -79,7 +80,10 @@ class FormHost:
         return int(found[0]) if found else None
 
     def _read(self):
+        hung = threading.Timer(3 * PATIENCE, self.process.kill)
+        hung.start()
         line = self.process.stdout.readline()
+        hung.cancel()
         if not line:
             raise AssertionError(f"the host ended with code {self.process.wait()}")
         answer = json.loads(line)

@@ -6,6 +6,7 @@
 #include "support/container/failure.h"
 #include "support/container/text.h"
 #include "support/form_host/looks.h"
+#include "support/form_host/property_window.h"
 #include "support/form_host/reports.h"
 #include "support/form_host/values.h"
 
@@ -176,6 +177,8 @@ Json carry_out(HostForm& host, const Json& command) {
                                                             {"set_focus", set_focus},
                                                             {"type", type_characters},
                                                             {"clipboard", clipboard},
+                                                            {"properties", show_properties},
+                                                            {"page", show_page},
                                                             {"rect", report_rect},
                                                             {"focus", report_focus},
                                                             {"caption", report_caption},
