@@ -5,6 +5,7 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
 #include <new>
 
 namespace vellora::win32 {
@@ -40,6 +41,22 @@ EditWindow::~EditWindow() {
     if (window_) {
         RemoveWindowSubclass(window_.get(), procedure, subclass_id);
     }
+}
+
+EditWindow::Selection EditWindow::selection() const {
+    DWORD start = 0;
+    DWORD end = 0;
+    send(EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+    return {static_cast<std::int32_t>(start), static_cast<std::int32_t>(end)};
+}
+
+std::int32_t EditWindow::room() const {
+    const std::int32_t kept = GetWindowTextLengthW(handle()) - selection().length();
+    return std::max(0, static_cast<std::int32_t>(send(EM_GETLIMITTEXT)) - kept);
+}
+
+bool EditWindow::locked() const {
+    return (GetWindowLongPtrW(handle(), GWL_STYLE) & ES_READONLY) != 0;
 }
 
 LRESULT EditWindow::pass_on(const EditMessage& message) const {

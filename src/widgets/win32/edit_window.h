@@ -3,6 +3,8 @@
 
 #include "widgets/win32/handles.h"
 
+#include <cstdint>
+
 namespace vellora::win32 {
 
 enum class TextAlignment { left = 0, right = 1, centered = 2 };
@@ -35,6 +37,15 @@ public:
     LRESULT send(UINT message, WPARAM wparam = 0, LPARAM lparam = 0) const {
         return SendMessageW(window_.get(), message, wparam, lparam);
     }
+    struct Selection {
+        std::int32_t start = 0;
+        std::int32_t end = 0;
+        std::int32_t length() const { return end - start; }
+    };
+    Selection selection() const;
+    /// How much fits in the place of the selection before the limit is reached.
+    std::int32_t room() const;
+    bool locked() const;
     /// What the platform does with a message; only while the client answers one.
     LRESULT pass_on(const EditMessage& message) const;
 

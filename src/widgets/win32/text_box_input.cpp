@@ -17,19 +17,6 @@ bool types_nothing(char16_t unit) {
     return unit == u'\t' || unit == u'\n' || unit == u'\r' || unit == VK_ESCAPE || unit == control_backspace;
 }
 
-// The platform's own limit counts units, and would let half a character in.
-bool has_room_for_pair(const EditWindow& edit) {
-    DWORD start = 0;
-    DWORD end = 0;
-    edit.send(EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
-    const LRESULT kept = edit.send(WM_GETTEXTLENGTH) - static_cast<LRESULT>(end - start);
-    return kept + 2 <= edit.send(EM_GETLIMITTEXT);
-}
-
-bool is_locked(const EditWindow& edit) {
-    return (GetWindowLongPtrW(edit.handle(), GWL_STYLE) & ES_READONLY) != 0;
-}
-
 /// Whether the platform may change the text on a message. Ctrl+V and its like come back as commands.
 bool changes_text(const EditMessage& message) {
     switch (message.id) {
@@ -53,7 +40,7 @@ bool changes_text(const EditMessage& message) {
 } // namespace
 
 bool TextBoxInput::refuses(const EditMessage& message) {
-    return listener_ != nullptr && changes_text(message) && !is_locked(edit_) &&
+    return listener_ != nullptr && changes_text(message) && !edit_.locked() &&
            !listener_->text_may_change();
 }
 
@@ -145,9 +132,10 @@ bool TextBoxInput::take_half(char16_t unit) {
     return is_first_half(unit) || is_second_half(unit);
 }
 
+// The platform's own limit counts units, and would let half a character in.
 void TextBoxInput::type_pair(char16_t first, char16_t second) {
     const Lifeline::Watch watch(lifeline_);
-    const bool refused = is_locked(edit_) || !has_room_for_pair(edit_) || refuses({WM_CHAR, second, 0});
+    const bool refused = edit_.locked() || edit_.room() < 2 || refuses({WM_CHAR, second, 0});
     if (!refused && watch.alive()) {
         const char16_t pair[] = {first, second, 0};
         edit_.send(EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(pair));

@@ -69,27 +69,11 @@ void TextBoxPeer::set_text(std::u16string_view text) {
     }
 }
 
-TextBoxPeer::Selection TextBoxPeer::selection() const {
-    DWORD start = 0;
-    DWORD end = 0;
-    edit_.send(EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
-    return {static_cast<std::int32_t>(start), static_cast<std::int32_t>(end)};
-}
-
-std::int32_t TextBoxPeer::selection_start() const {
-    return selection().start;
-}
-
-std::int32_t TextBoxPeer::selection_length() const {
-    const Selection now = selection();
-    return now.end - now.start;
-}
-
 std::u16string TextBoxPeer::selected_text() const {
-    const Selection now = selection();
+    const EditWindow::Selection now = edit_.selection();
     const std::u16string whole = text();
     const auto start = std::min(static_cast<std::size_t>(now.start), whole.size());
-    return whole.substr(start, static_cast<std::size_t>(now.end - now.start));
+    return whole.substr(start, static_cast<std::size_t>(now.length()));
 }
 
 void TextBoxPeer::set_selection_start(std::int32_t start) {
@@ -103,7 +87,7 @@ void TextBoxPeer::set_selection_start(std::int32_t start) {
 // platform moves it to the end of a selection, the selection is made from there to its beginning.
 void TextBoxPeer::set_selection_length(std::int32_t length) {
     check_not_negative(length);
-    const std::int32_t start = selection().start;
+    const std::int32_t start = selection_start();
     const std::int32_t rest = std::max(0, GetWindowTextLengthW(edit_.handle()) - start);
     const std::int32_t end = start + std::min(length, rest);
     const LRESULT view = first_visible_character();
@@ -117,21 +101,9 @@ LRESULT TextBoxPeer::first_visible_character() const {
     return edit_.send(EM_GETFIRSTVISIBLELINE);
 }
 
-std::size_t TextBoxPeer::room_for_selection() const {
-    if (max_length_ == 0) {
-        return std::u16string_view::npos;
-    }
-    const std::int32_t kept = GetWindowTextLengthW(edit_.handle()) - selection_length();
-    return static_cast<std::size_t>(std::max(0, max_length_ - kept));
-}
-
 void TextBoxPeer::set_selected_text(std::u16string_view text) {
-    const std::u16string accepted = accepted_part(text, room_for_selection());
+    const std::u16string accepted = accepted_part(text, static_cast<std::size_t>(edit_.room()));
     edit_.send(EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(accepted.c_str()));
-}
-
-bool TextBoxPeer::locked() const {
-    return (GetWindowLongPtrW(edit_.handle(), GWL_STYLE) & ES_READONLY) != 0;
 }
 
 void TextBoxPeer::set_locked(bool locked) {
@@ -245,7 +217,7 @@ LRESULT TextBoxPeer::pass_on_quietly(const EditMessage& message) {
 
 void TextBoxPeer::drop_half_character() {
     const std::u16string whole = text();
-    const auto caret = static_cast<std::size_t>(selection().start);
+    const auto caret = static_cast<std::size_t>(selection_start());
     if (caret == 0 || caret > whole.size() || !is_first_half(whole[caret - 1]) ||
         (caret < whole.size() && is_second_half(whole[caret]))) {
         return;

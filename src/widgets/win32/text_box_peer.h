@@ -30,13 +30,13 @@ public:
     /// Still there after the window is gone.
     std::u16string text() const override;
     void set_text(std::u16string_view text) override;
-    std::int32_t selection_start() const override;
-    std::int32_t selection_length() const override;
+    std::int32_t selection_start() const override { return edit_.selection().start; }
+    std::int32_t selection_length() const override { return edit_.selection().length(); }
     std::u16string selected_text() const override;
     void set_selection_start(std::int32_t start) override;
     void set_selection_length(std::int32_t length) override;
     void set_selected_text(std::u16string_view text) override;
-    bool locked() const override;
+    bool locked() const override { return edit_.locked(); }
     void set_locked(bool locked) override;
     std::int32_t max_length() const override { return max_length_; }
     void set_max_length(std::int32_t length) override;
@@ -50,11 +50,6 @@ public:
     bool focused() const override { return edit_.handle() != nullptr && GetFocus() == edit_.handle(); }
 
 private:
-    struct Selection {
-        std::int32_t start = 0;
-        std::int32_t end = 0;
-    };
-
     HWND widget_window() const override { return edit_.handle(); }
     LRESULT edit_message(const EditMessage& message) override;
     LRESULT set_colors(HDC dc);
@@ -69,9 +64,7 @@ private:
     void note_change();
     void apply_font(HFONT font);
     void apply_margins();
-    Selection selection() const;
     LRESULT first_visible_character() const;
-    std::size_t room_for_selection() const;
 
     Lifeline lifeline_;
     SurfaceWindow& surface_;
