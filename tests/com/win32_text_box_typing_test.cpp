@@ -1,9 +1,8 @@
 // Typing, the clipboard and input methods in the native text box.
 #include "com/support/composition.h"
-#include "com/support/peers_test.h"
+#include "com/support/text_box_typing_test.h"
 
 #include "support/container/clipboard.h"
-#include "widgets/win32/text_box_peer.h"
 
 #include <algorithm>
 #include <memory>
@@ -11,41 +10,8 @@
 namespace vellora::test {
 namespace {
 
-using win32::TextAlignment;
-using win32::TextBoxPeer;
-
-constexpr std::u16string_view face = u"\U0001F600";
 constexpr WPARAM control_a = 1;
 constexpr WPARAM control_backspace = 127;
-
-class TextBoxTypingTest : public PeersTest {
-protected:
-    TextBoxTypingTest() {
-        box_.move({15, 15, 2400, 240});
-        box_.set_visible(true);
-        box_.listen(&journal_);
-        box_.focus();
-        take_lines();
-    }
-
-    void type(std::u16string_view text) { PeersTest::type(box_.window(), text); }
-    void select(std::int32_t start, std::int32_t length) {
-        box_.set_selection_start(start);
-        box_.set_selection_length(length);
-    }
-    LRESULT send(UINT message, WPARAM wparam = 0, LPARAM lparam = 0) {
-        return SendMessageW(window_of(box_), message, wparam, lparam);
-    }
-    /// The text box with a text of its own, nothing of it to be undone.
-    void start_with(std::u16string_view text) {
-        box_.set_text(text);
-        send(EM_EMPTYUNDOBUFFER);
-        take_lines();
-    }
-
-    TextBoxJournal journal_{lines_};
-    TextBoxPeer box_{surface_, TextAlignment::left};
-};
 
 TEST_F(TextBoxTypingTest, ACharacterOfTwoUnitsIsOneChange) {
     type(face);
@@ -237,7 +203,7 @@ TEST_F(TextBoxTypingTest, ALockedBoxIsNotComposedInto) {
 }
 
 TEST_F(TextBoxTypingTest, MayBeLeftByTheHandlerOfACharactersFirstHalf) {
-    auto box = std::make_unique<TextBoxPeer>(surface_, TextAlignment::left);
+    auto box = std::make_unique<win32::TextBoxPeer>(surface_, win32::TextAlignment::left);
     box->set_visible(true);
     box->listen(&journal_);
     journal_.on_key_press = [&](std::int16_t&) { box.reset(); };
@@ -246,7 +212,7 @@ TEST_F(TextBoxTypingTest, MayBeLeftByTheHandlerOfACharactersFirstHalf) {
 }
 
 TEST_F(TextBoxTypingTest, MayBeEndedByTheListenerThatIsAsked) {
-    auto box = std::make_unique<TextBoxPeer>(surface_, TextAlignment::left);
+    auto box = std::make_unique<win32::TextBoxPeer>(surface_, win32::TextAlignment::left);
     box->listen(&journal_);
     const HWND window = window_of(*box);
     journal_.may_change = [&] {

@@ -2,6 +2,7 @@
 
 #include "runtime/utf16.h"
 #include "widgets/win32/user_input.h"
+#include "widgets/win32/whole_characters.h"
 
 #include <utility>
 
@@ -82,7 +83,16 @@ LRESULT TextBoxInput::pass_on(const Lifeline::Watch& watch, const EditMessage& m
     }
     const EditMessage passed{message.id, static_cast<std::uint16_t>(code), message.lparam};
     const bool refused = refuses(passed);
-    return refused || !watch.alive() ? 0 : edit_.pass_on(passed);
+    return refused || !watch.alive() ? 0 : act(watch, passed);
+}
+
+LRESULT TextBoxInput::act(const Lifeline::Watch& watch, const EditMessage& message) {
+    spare_no_half(edit_, message);
+    const LRESULT result = edit_.pass_on(message);
+    if (watch.alive()) {
+        settle_caret(edit_, message);
+    }
+    return result;
 }
 
 LRESULT TextBoxInput::key_down(const EditMessage& message) {
@@ -172,7 +182,7 @@ LRESULT TextBoxInput::mouse(const EditMessage& message) {
     if (watch.alive() && listener_ != nullptr) {
         raise_mouse(message);
     }
-    return watch.alive() ? edit_.pass_on(message) : 0;
+    return watch.alive() ? act(watch, message) : 0;
 }
 
 void TextBoxInput::raise_mouse(const EditMessage& message) {

@@ -36,6 +36,7 @@ private:
     void raise_mouse(const EditMessage& message);
     /// Nothing is passed on for a code of 0, nor by a text box that the listener ended.
     LRESULT pass_on(const Lifeline::Watch& watch, const EditMessage& message, std::int16_t code);
+    LRESULT act(const Lifeline::Watch& watch, const EditMessage& message);
 
     const EditWindow& edit_;
     FocusTracker& focus_;
