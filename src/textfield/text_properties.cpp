@@ -120,6 +120,9 @@ void TextProperties::put_Locked(bool locked) {
 std::u16string TextProperties::SelText() const { return core_.live_text_box().selected_text(); }
 
 void TextProperties::put_SelText(std::u16string_view text) {
+    if (!core_.site.may_change(u"Text")) {
+        return;
+    }
     core_.live_text_box().set_selected_text(text);
     core_.property_changed(u"SelText");
 }

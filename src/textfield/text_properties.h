@@ -38,6 +38,7 @@ public:
     void put_Locked(bool locked);
 
     std::u16string SelText() const;
+    /// Nothing when the container forbids the text to change.
     void put_SelText(std::u16string_view text);
     std::int32_t SelStart() const;
     void put_SelStart(std::int32_t start);

@@ -127,6 +127,7 @@ TEST_F(TextFieldTest, SwitchingTheAlignmentLeavesTheListOpen) {
 TEST_F(TextFieldTest, AHostMayForbidTheTextToChange) {
     site().log().answer("IPropertyNotifySink::OnRequestEdit", S_FALSE);
     EXPECT_EQ(S_OK, c().put_Text(Bstr(L"other").get()));
+    EXPECT_EQ(S_OK, c().put_SelText(Bstr(L"other").get()));
     press('X');
     press(VK_DELETE);
     EXPECT_EQ(L"Vellora1", text());

@@ -142,6 +142,7 @@ TEST(ARefusingHost, KeepsItsTextFromAProgram) {
     Fruit combo;
     combo.site.refused = u"Text";
     combo.object().put_Text(u"other");
+    combo.text_properties().put_SelText(u"other");
     EXPECT_EQ(combo.object().Text(), u"Vellora1");
     EXPECT_EQ(combo.journal().take_all(), Lines{});
 }
