@@ -24,7 +24,7 @@ protected:
     ~SurfaceListener() = default;
 };
 
-/// What assistive software is told as it happens.
+/// What assistive software is told as it happens, and of an open list also the container, whose keys it shares.
 enum class Announcement { value_changed, list_opened_or_closed };
 
 /// Lengths are twips.

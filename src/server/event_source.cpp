@@ -69,12 +69,9 @@ void EventSource::fire_mouse(long event, std::int16_t& button, std::int16_t& shi
     host_.fire(event, by_reference(button), by_reference(shift), by_reference(x), by_reference(y));
 }
 
-// An open list eats Enter and Esc, which are the form's otherwise.
 // The argument goes out by reference as declared, but nobody asks what became of it: an opening or closing
 // has happened when it is reported.
 void EventSource::drop_down(DropDownState state) {
-    const com::Hold held = host_.hold();
-    host_.control_info_changed();
     auto argument = static_cast<std::int32_t>(state);
     host_.fire(event::drop_down, by_reference(argument));
 }

@@ -124,6 +124,9 @@ void VelloraClient::surface_focus_entered() { host_.request_ui_activation(); }
 
 void VelloraClient::surface_focus_left() { host_.focus_left(); }
 
+// An open list eats Enter and Esc, which are the form's otherwise.
+void VelloraClient::surface_list_opened_or_closed() { host_.control_info_changed(); }
+
 LRESULT VelloraClient::surface_object(HWND window, WPARAM wparam, LPARAM lparam) {
     const AccessibleControl control{&control_.accessibility(), win32::Lifeline::Watch(lifeline_),
                                     peers_.surface.handle()};

@@ -43,6 +43,7 @@ private:
     void surface_wants_height(int pixels) override;
     void surface_focus_entered() override;
     void surface_focus_left() override;
+    void surface_list_opened_or_closed() override;
     LRESULT surface_object(HWND window, WPARAM wparam, LPARAM lparam) override;
     void close_requested() override;
     void floating_window_left() override;

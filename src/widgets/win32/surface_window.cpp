@@ -111,6 +111,9 @@ void SurfaceWindow::refresh() {
 void SurfaceWindow::announce(Announcement what) {
     const DWORD event = what == Announcement::value_changed ? EVENT_OBJECT_VALUECHANGE : EVENT_OBJECT_STATECHANGE;
     NotifyWinEvent(event, handle(), OBJID_CLIENT, CHILDID_SELF);
+    if (what == Announcement::list_opened_or_closed && host_ != nullptr) {
+        host_->surface_list_opened_or_closed();
+    }
 }
 
 LRESULT SurfaceWindow::accessible_object(HWND window, WPARAM wparam, LPARAM lparam) {

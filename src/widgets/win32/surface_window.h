@@ -20,6 +20,8 @@ public:
     virtual void surface_focus_entered() = 0;
     /// The focus went out of it again.
     virtual void surface_focus_left() = 0;
+    /// Its list floats over the form from now on, or no longer does.
+    virtual void surface_list_opened_or_closed() = 0;
     /// What assistive software gets for the surface or its text box: the answer to WM_GETOBJECT, 0 where the platform
     /// has one that serves.
     virtual LRESULT surface_object(HWND window, WPARAM wparam, LPARAM lparam) = 0;

@@ -99,6 +99,7 @@ public:
     }
     void surface_focus_entered() override { lines_.push_back("host: focus entered"); }
     void surface_focus_left() override { lines_.push_back("host: focus left"); }
+    void surface_list_opened_or_closed() override { lines_.push_back("host: list opened or closed"); }
     LRESULT surface_object(HWND, WPARAM, LPARAM) override { return 0; }
 
 private:
