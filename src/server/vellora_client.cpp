@@ -108,7 +108,11 @@ com::Mnemonics VelloraClient::mnemonics() {
 }
 
 // No key is announced, but a host that sends one wants the field.
-void VelloraClient::on_mnemonic(const MSG&) { SetFocus(window()); }
+void VelloraClient::on_mnemonic(const MSG&) {
+    if (peers_.surface.shown()) {
+        SetFocus(window());
+    }
+}
 
 bool VelloraClient::list_open() {
     return control_.state().mlStatic_hWnd != 0;
