@@ -52,6 +52,24 @@ TEST_F(TextBoxCharactersTest, DeleteTakesAWholeCharacter) {
     EXPECT_EQ(box_.text(), u"a");
 }
 
+// With Ctrl or Shift the platform may mean something else by it, such as the rest of the line.
+TEST_F(TextBoxCharactersTest, DeleteWithAnotherKeyMeansWhatItMeansAnywhere) {
+    for (const int modifier : {VK_CONTROL, VK_SHIFT}) {
+        const Held held(modifier);
+        start_with(u"abcd");
+        box_.set_selection_start(1);
+        press(VK_DELETE);
+        std::u16string left = box_.text();
+        start_with(u"a\U0001F600d");
+        box_.set_selection_start(1);
+        press(VK_DELETE);
+        if (const auto at = left.find(u"bc"); at != left.npos) {
+            left.replace(at, 2, face);
+        }
+        EXPECT_EQ(box_.text(), left) << modifier;
+    }
+}
+
 TEST_F(TextBoxCharactersTest, ADeletedCharacterComesBackWhole) {
     start_with(u"a\U0001F600");
     box_.set_selection_start(3);

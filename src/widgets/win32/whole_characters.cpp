@@ -1,6 +1,7 @@
 #include "widgets/win32/whole_characters.h"
 
 #include "runtime/utf16.h"
+#include "widgets/win32/user_input.h"
 #include "widgets/win32/wide_text.h"
 
 namespace vellora::win32 {
@@ -36,7 +37,7 @@ void move_out(const EditWindow& edit, bool cut_start, bool cut_end) {
 void spare_no_half(const EditWindow& edit, const EditMessage& message) {
     if (message.id == WM_CHAR && message.wparam == VK_BACK) {
         select_character_around(edit, edit.selection().start - 1);
-    } else if (message.id == WM_KEYDOWN && message.wparam == VK_DELETE) {
+    } else if (message.id == WM_KEYDOWN && message.wparam == VK_DELETE && shift_mask() == 0) {
         select_character_around(edit, edit.selection().start + 1);
     }
 }
