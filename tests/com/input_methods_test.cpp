@@ -38,8 +38,8 @@ protected:
         container_.pump();
     }
     static Lines events_of_0228(std::initializer_list<const char*> inside) {
-        Lines lines{"KeyUp(I2 96, I2 4)", "KeyUp(I2 98, I2 4)", "KeyUp(I2 98, I2 4)", "KeyUp(I2 104, I2 4)",
-                    "KeyUp(I2 18, I2 0)", "KeyPress(I2 228)"};
+        Lines lines{"KeyUp(I2 96, I2 4)",  "KeyUp(I2 98, I2 4)", "KeyUp(I2 98, I2 4)",
+                    "KeyUp(I2 104, I2 4)", "KeyUp(I2 18, I2 0)", "KeyPress(I2 228)"};
         lines.insert(lines.end(), inside.begin(), inside.end());
         return lines;
     }

@@ -84,7 +84,7 @@ class DialogMnemonics : public testing::Test {
 protected:
     HWND child(const wchar_t* of_class, const wchar_t* text, int id, DWORD style, int top) {
         return CreateWindowExW(0, of_class, text, WS_CHILD | WS_VISIBLE | style, 20, top, 80, 24, form(),
-                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
+                               reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
     }
     HWND label() { return child(L"Static", L"&Colour", -1, 0, 50); }
     void buttons() {
