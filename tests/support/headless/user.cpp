@@ -137,7 +137,7 @@ void User::press_delete() {
 }
 
 bool User::may_edit() {
-    return !text_box().locked() && text_box().listener()->text_may_change();
+    return !text_box().locked() && text_box().listener() != nullptr && text_box().listener()->text_may_change();
 }
 
 void User::erase(std::int32_t from, std::int32_t length) {
