@@ -129,6 +129,28 @@ TEST_F(BadInput, ScriptsMayHandInAnythingToo) {
     expect_sound();
 }
 
+TEST_F(BadInput, TheFieldAndItsLooksTakeAnythingToo) {
+    const auto script = site().as<IDispatch>();
+    for (const wchar_t* name :
+         {L"Alignment", L"MaxLength", L"LeftMargin", L"RightMargin", L"Locked", L"SelText", L"SelStart",
+          L"SelLength", L"AutoComplete", L"Enabled", L"ForeColor", L"BackColor", L"ButtonForeColor",
+          L"ButtonBackColor", L"ButtonStyle", L"GridLines", L"AutoHeight", L"Font", L"Picture"})
+        for (const Variant& value : nasty_values()) {
+            failure_text([&] { put_property(script.Get(), name, value); });
+            failure_text([&] { set_property(script.Get(), name, value); });
+        }
+    EXPECT_EQ(S_OK, c().put_Alignment(0));
+    EXPECT_EQ(S_OK, c().put_MaxLength(0));
+    EXPECT_EQ(S_OK, c().put_Enabled(VARIANT_TRUE));
+    EXPECT_EQ(S_OK, c().put_Locked(VARIANT_FALSE));
+    EXPECT_EQ(S_OK, c().put_AutoComplete(VARIANT_TRUE));
+    c().AddItem(Variant(L"Apple").get(), -1);
+    SetFocus(text_field(control()));
+    key(text_field(control()), 'A');
+    EXPECT_EQ(L"Apple", text());
+    expect_sound();
+}
+
 TEST_F(BadInput, WrongNamesAndCountsAreRefused) {
     const auto script = site().as<IDispatch>();
     EXPECT_EQ(std::to_string(DISP_E_UNKNOWNNAME) + " source \"NoSuch\" description \"unknown name\"",
