@@ -6,6 +6,7 @@
 #include "search_bench.h"
 #include "sort_bench.h"
 #include "stopwatch.h"
+#include "typing_bench.h"
 #include "vellora_list.h"
 
 #include <cstdio>
@@ -148,6 +149,7 @@ int run() {
     bench.clearing();
     bench.reading();
     measure_completing(bench.report);
+    measure_typing(bench.report, bench.list);
     measure_finding(bench.report, bench.list, bench.native);
     measure_adding_unknown(bench.report, bench.list);
     measure_sorting(bench.report);

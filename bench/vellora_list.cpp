@@ -1,5 +1,8 @@
 #include "vellora_list.h"
 
+#include "support/container/control_windows.h"
+#include "support/container/text.h"
+
 #include <string>
 
 namespace vellora::bench {
@@ -100,6 +103,28 @@ long VelloraList::list_index() {
     long row = 0;
     check(vellora_->get_ListIndex(&row));
     return row;
+}
+
+HWND VelloraList::field() {
+    LONG window = 0;
+    check(vellora_->get_hWnd(&window));
+    return test::text_field(reinterpret_cast<HWND>(static_cast<LONG_PTR>(window)));
+}
+
+void VelloraList::be_about_to_type(const std::wstring& text) {
+    SetFocus(field());
+    check(vellora_->put_ListIndex(-1));
+    check(vellora_->put_Text(test::Bstr(text).get()));
+    check(vellora_->put_SelStart(static_cast<long>(text.size())));
+    container_.pump();
+}
+
+void VelloraList::type(wchar_t character) {
+    HWND window = field();
+    SendMessageW(window, WM_KEYDOWN, VK_PACKET, 1);
+    PostMessageW(window, WM_CHAR, character, 1);
+    container_.pump();
+    SendMessageW(window, WM_KEYUP, VK_PACKET, static_cast<LPARAM>(0xC0000001U));
 }
 
 void VelloraList::open_and_close() {

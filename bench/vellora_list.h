@@ -34,12 +34,19 @@ public:
     long list_index();
     void select(long row) { check(vellora_->put_ListIndex(row)); }
 
+    void complete(bool on) { check(vellora_->put_AutoComplete(on ? VARIANT_TRUE : VARIANT_FALSE)); }
+    /// Gives the field the focus and this text with the caret behind it, and selects no row.
+    void be_about_to_type(const std::wstring& text);
+    /// A key down, its character and the key up, with everything painted that follows from it.
+    void type(wchar_t character);
+
     void auto_size(bool on) { check(vellora_->put_AutoSize(on ? vlContents : vlNone)); }
     /// Opens the list, lets it paint, and closes it.
     void open_and_close();
 
 private:
     DISPID identifier(const wchar_t* member);
+    HWND field();
 
     test::Container& container_;
     Microsoft::WRL::ComPtr<_Vellora> vellora_;
