@@ -139,6 +139,15 @@ class CharactersTest(TextTest):
         self.picture("right-to-left-right-aligned")
 
 
+    def test_backspace_and_the_arrows_take_a_character_of_two_units_whole(self):
+        self.host.do("type", text="x\U0001F600y")
+        self.until_text("x\U0001F600y")
+        self.host.key("Left", "Left")
+        self.assertEqual(1, self.get("SelStart"))
+        self.host.key("Right", "BackSpace")
+        self.assertEqual("xy", self.text())
+
+
 class DeadKeyTest(TextTest):
     """An accent and then its letter, which the window system composes."""
 
@@ -153,6 +162,26 @@ class DeadKeyTest(TextTest):
         self.until_text("é")
         events = self.host.events()
         self.assertEqual(1, events.count(CHANGE), events)
+
+
+class UnusualKeysTest(TextTest):
+
+    def test_control_with_either_shift_key(self):
+        for shift in ("Shift_L", "Shift_R"):
+            self.host.counted("key_up", lambda shift=shift: xdotool(
+                "keydown", "Control_L", "keydown", shift, "keyup", shift, "keyup", "Control_L"), 2)
+            self.assert_events("Vellora1.KeyUp(I2 16, I2 2)", "Vellora1.KeyUp(I2 17, I2 0)")
+        self.assertEqual(("Vellora1", 0), (self.text(), self.host.floating()))
+
+    def test_a_character_by_its_number(self):
+        self.host.counted("key_up", lambda: xdotool(
+            "keydown", "alt", "key", "KP_0", "key", "KP_2", "key", "KP_2", "key", "KP_8", "keyup", "alt"), 5)
+        self.assertFalse([event for event in self.host.events() if "KeyDown" in event or "DropDown" in event])
+        # Not every platform makes a character of it.
+        self.assertIn(self.text(), ("Vellora1", "ä"))
+        self.assertEqual((-1, 0), (self.get("ListIndex"), self.host.floating()))
+        self.host.type("b")
+        self.assertEqual("Banana", self.text()[-6:])
 
 
 class ClipboardTest(TextTest):
