@@ -124,6 +124,22 @@ TEST_F(TextFieldTest, SwitchingTheAlignmentLeavesTheListOpen) {
     EXPECT_EQ(field(), GetFocus());
 }
 
+TEST_F(TextFieldTest, AListLeftWhileNoFieldIsLiveClosesAndOpensAgain) {
+    open();
+    EXPECT_NE(S_OK, c().put_Alignment(7));
+    events();
+    site().log().take();
+    SetFocus(make_edit());
+    container_.pump();
+    EXPECT_FALSE(is_open());
+    EXPECT_TRUE(same_lines({"DropDown(I4 1)"}, events()));
+    EXPECT_TRUE(site().log().contains("IOleControlSite::OnFocus(False)"));
+    EXPECT_EQ(S_OK, c().put_Alignment(0));
+    open();
+    EXPECT_TRUE(is_open());
+    c().HideList();
+}
+
 TEST_F(TextFieldTest, AHostMayForbidTheTextToChange) {
     site().log().answer("IPropertyNotifySink::OnRequestEdit", S_FALSE);
     EXPECT_EQ(S_OK, c().put_Text(Bstr(L"other").get()));

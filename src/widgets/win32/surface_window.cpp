@@ -1,6 +1,7 @@
 #include "widgets/win32/surface_window.h"
 
 #include "widgets/win32/face_painter.h"
+#include "widgets/win32/guarded_procedure.h"
 #include "widgets/win32/notification_router.h"
 #include "widgets/win32/reflection.h"
 #include "widgets/win32/screen_metrics.h"
@@ -254,10 +255,11 @@ void SurfaceWindow::focus_entered() {
     }
 }
 
+// Whoever moved the focus, a closing list perhaps, is not to suffer from what goes wrong in whom it left.
 void SurfaceWindow::focus_left() {
     const Lifeline::Watch self(lifeline_);
     if (listener_ != nullptr) {
-        listener_->surface_focus_left();
+        guarded([&] { return listener_->surface_focus_left(), 0; });
     }
     if (self.alive() && host_ != nullptr) {
         host_->surface_focus_left();
