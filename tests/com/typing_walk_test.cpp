@@ -77,6 +77,9 @@ protected:
             events()));
         EXPECT_EQ(L"Apple", text());
         EXPECT_EQ(L"pple", selected_text());
+        open();
+        EXPECT_TRUE(is_open());
+        c().HideList();
     }
 
     int number(int from, int to) { return std::uniform_int_distribution<int>(from, to)(random_); }
@@ -242,9 +245,15 @@ TEST_P(TypingWalkToTheEnd, MayEndInAnyHandler) {
         step();
     EXPECT_TRUE(ended_);
     EXPECT_TRUE(floating_windows().empty());
+    Container later(bare_form());
+    Site& fresh = later.add(__uuidof(Vellora));
+    vellora(fresh)->ShowList();
+    later.pump();
+    EXPECT_EQ(1U, floating_windows().size());
+    vellora(fresh)->HideList();
 }
 
-INSTANTIATE_TEST_SUITE_P(Seed, TypingWalkToTheEnd, testing::Range(100U, 125U));
+INSTANTIATE_TEST_SUITE_P(Seed, TypingWalkToTheEnd, testing::Range(105U, 120U));
 
 } // namespace
 } // namespace vellora::test
