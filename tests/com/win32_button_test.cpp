@@ -32,6 +32,16 @@ protected:
         }
     }
 
+    /// Leaves a click waiting in the queue that the mouse seems to have made.
+    void click_by_mouse() {
+        POINT point{7, 7};
+        const LPARAM where = MAKELPARAM(point.x, point.y);
+        ClientToScreen(window_of(*button_), &point);
+        SetCursorPos(point.x, point.y);
+        PostMessageW(window_of(*button_), WM_LBUTTONDOWN, MK_LBUTTON, where);
+        PostMessageW(window_of(*button_), WM_LBUTTONUP, 0, where);
+    }
+
     ButtonJournal journal_{lines_};
     std::unique_ptr<CheckButtonPeer> button_ = std::make_unique<CheckButtonPeer>(surface_, 7);
 };
@@ -115,18 +125,23 @@ TEST_F(Win32ButtonTest, AHiddenButtonTakesNoPress) {
     EXPECT_EQ(take_lines(), Lines{});
 }
 
-TEST_F(Win32ButtonTest, APressMadeBeforeTheButtonChangedIsOutdated) {
-    POINT point{7, 7};
-    const LPARAM where = MAKELPARAM(point.x, point.y);
-    ClientToScreen(window_of(*button_), &point);
-    SetCursorPos(point.x, point.y);
-    PostMessageW(window_of(*button_), WM_LBUTTONDOWN, MK_LBUTTON, where);
-    PostMessageW(window_of(*button_), WM_LBUTTONUP, 0, where);
+TEST_F(Win32ButtonTest, APressMadeBeforeTheButtonCameUpIsOutdated) {
     button_->set_value(1);
+    click_by_mouse();
+    button_->set_value(0);
     take_lines();
     pump();
     EXPECT_EQ(take_lines(), Lines{});
-    EXPECT_EQ(button_->value(), 1);
+    EXPECT_EQ(button_->value(), 0);
+}
+
+TEST_F(Win32ButtonTest, APressMadeBeforeTheButtonWentDownBringsItUpAgain) {
+    click_by_mouse();
+    button_->set_value(1);
+    take_lines();
+    pump();
+    EXPECT_EQ(take_lines(), (Lines{"pressed 7", "released 7", "clicked 7"}));
+    EXPECT_EQ(button_->value(), 0);
 }
 
 TEST_F(Win32ButtonTest, OtherButtonsArePressesWithoutAClick) {

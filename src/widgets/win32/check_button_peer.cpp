@@ -30,7 +30,7 @@ ButtonFace CheckButtonPeer::face() const {
     const bool held = space_held_ || (press_ && press_->button == left_button && press_->inside);
     // Nobody says that the mouse has left while a press holds it.
     const bool hot = hot_ && (!press_ || press_->inside);
-    return {caption_, fore_color_, back_color_, held || value_ == looks_pressed_at_, enabled(), hot};
+    return {caption_, fore_color_, back_color_, held || is_down(), enabled(), hot};
 }
 
 void CheckButtonPeer::set_value(int value) {
@@ -104,11 +104,12 @@ LRESULT CheckButtonPeer::on_message(HWND window, UINT message, WPARAM wparam, LP
 }
 
 // A press on the button of an open list activates the form, and that closes the list before the press arrives
-// here. Such a press was meant for the list that was open, not for opening it again.
+// here. Such a press was meant for the list that was open, not for opening it again. The second press of a
+// quick double click is old as well when opening takes its time, but it finds the list open and closes it.
 //
 // The focus comes last: it too closes an open list, which may take the capture away or hide the button.
 void CheckButtonPeer::mouse_pressed(std::int16_t button, POINT point) {
-    const bool outdated = changed_at_ && is_mouse_older_than(*changed_at_, handle(), point);
+    const bool outdated = !is_down() && changed_at_ && is_mouse_older_than(*changed_at_, handle(), point);
     if (press_ || !visible() || outdated) {
         return;
     }

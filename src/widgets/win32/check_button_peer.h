@@ -48,6 +48,7 @@ private:
     void mouse_pressed(std::int16_t button, POINT point) override;
     void mouse_released(std::int16_t button, POINT point) override;
     LRESULT mouse_left();
+    bool is_down() const { return value_ == looks_pressed_at_; }
     LRESULT paint(HWND window);
     void cancel_press();
     void toggle();
