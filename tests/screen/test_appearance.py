@@ -1,9 +1,7 @@
 """How the closed control looks: beside the platform's own combo box, in the colours of its own and the system's, and as
 the container paints it.
 """
-import os
-
-from support.bed import move
+from support.bed import DPI, move
 from support.looks import (BITMAP_FONT, BLUE, BUTTON_FACE, BUTTON_TEXT, NOWHERE, RED, TEXT, WINDOW, WINDOW_TEXT, YELLOW,
                            LookTest, rgb)
 
@@ -140,7 +138,7 @@ class ButtonTest(LookTest):
         recoloured = ((0, 0, 0), rgb(RED))
         self.assertIn(recoloured, changed)
         # At higher resolutions the two arrows are not of quite the same size, but both are sharp.
-        resized = () if os.environ.get("VELLORA_DPI", "96") == "96" else (((0, 0, 0), face), (face, rgb(RED)))
+        resized = () if DPI == 96 else (((0, 0, 0), face), (face, rgb(RED)))
         self.assertLessEqual(set(changed), {recoloured, *resized})
 
 

@@ -17,11 +17,11 @@ class GripTest(ListOfRowsTest):
         _, _, right, bottom = self.host.rect("floating")
         return right - from_right, bottom - from_bottom
 
-    def drag_by(self, start, x, y):
+    def drag_by(self, start, x, y, steps=4):
         # The pointer decides what is pulled, and has to hover before the press as a hand's does.
         move(start)
         self.host.settle()
-        self.drag(start, (start[0] + x, start[1] + y))
+        self.drag(start, (start[0] + x, start[1] + y), steps)
 
     def assert_grown(self, x, y):
         left, top, right, bottom = self.before
@@ -54,14 +54,21 @@ class DragTest(GripTest):
         self.look("wider")
 
     def test_away_from_the_grip_nothing_is_pulled(self):
-        for start in (self.grip(from_right=60), self.grip(from_bottom=60, from_right=40)):
-            move(start)
-            self.host.press(start)
-            self.pull(start, (start[0], start[1] - 20))
+        beside = self.grip(from_right=60)
+        self.drag_by(beside, -30, -30)
+        self.assert_grown(0, 0)
+        above = self.grip(from_right=60, from_bottom=60)
+        move(above)
+        self.host.press(above)
+        self.pull(above, (above[0] + 30, above[1] + 30))
+        self.assertEqual(self.before, self.host.rect("floating"))
+        self.host.release()
+        if self.host.floating():
             self.assertEqual(self.before, self.host.rect("floating"))
-            self.host.release()
-            if not self.host.floating():
-                break
+        else:
+            self.open()
+        self.drag_by(self.grip(), -30, -30)
+        self.assert_grown(-30, -30)
 
     def test_the_other_button_pulls_nothing(self):
         start = self.grip()
@@ -72,12 +79,19 @@ class DragTest(GripTest):
         self.assert_grown(0, 0)
 
     def test_it_stays_larger_than_three_grips(self):
-        start = self.grip()
-        self.drag_by(start, self.before[0] + 10 - start[0], self.before[1] + 10 - start[1])
-        left, top, right, bottom = self.host.rect("floating")
-        smallest = min(right - left, bottom - top)
-        self.assertGreater(smallest, 3 * self.row_below * 2 // 3)
+        left, top, right, bottom = self.before
+        smallest = 3 * self.row_below + 1  # a grip is as wide as its row is high
+        narrower, lower = left + smallest - right, top + smallest - bottom
+        self.drag_by(self.grip(), narrower, lower)
+        self.assert_grown(narrower, lower)
         self.look("smallest")
+        # What would be too small on either side counts for nothing, and is not cut to size.
+        for x, y in ((-1, 0), (0, -1), (-1, 60), (60, -1), (-30, -30)):
+            with self.subTest(x=x, y=y):
+                self.drag_by(self.grip(), x, y, steps=1)
+                self.assert_grown(narrower, lower)
+        self.drag_by(self.grip(), 60, 40)
+        self.assert_grown(narrower + 60, lower + 40)
         self.assert_sound()
 
     def test_after_the_release_the_mouse_moves_alone(self):

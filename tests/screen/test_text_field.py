@@ -1,7 +1,7 @@
 """The text field under a real keyboard and a real mouse."""
 import subprocess
 
-from support.bed import ScreenTest, artifact, move, photograph, xdotool
+from support.bed import TWIPS_PER_PIXEL, ScreenTest, artifact, move, photograph, xdotool
 
 
 def key_events(code, *inside):
@@ -258,7 +258,8 @@ class MouseTest(TextTest):
     def test_the_place_of_a_click_is_in_twips(self):
         text = self.host.rect("text")
         self.host.click((text[0] + 10, text[1] + 5))
-        self.assertEqual("Vellora1.MouseDown(I2 1, I2 0, R4 150, R4 75)", self.host.events()[0])
+        x, y = 10 * TWIPS_PER_PIXEL, 5 * TWIPS_PER_PIXEL
+        self.assertEqual(f"Vellora1.MouseDown(I2 1, I2 0, R4 {x}, R4 {y})", self.host.events()[0])
 
     def test_the_right_button_brings_the_menu(self):
         self.host.put("Vellora1", "SelLength", 0)

@@ -13,6 +13,13 @@ import unittest
 ROOT = os.environ.get("VELLORA_ROOT") or os.path.abspath(os.path.join(os.path.dirname(__file__), "..", "..", ".."))
 ARCH = os.environ.get("VELLORA_ARCH", "x86")
 PATIENCE = 20.0
+DPI = int(os.environ.get("VELLORA_DPI") or 96)
+TWIPS_PER_PIXEL = 1440 // DPI
+
+
+def scaled(length):
+    """Pixels of what is `length` pixels long at 96 dots per inch."""
+    return length * DPI // 96
 
 
 def wine_command(program, *arguments):

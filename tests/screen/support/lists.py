@@ -1,5 +1,5 @@
 """What tests of an open list have in common: a control with rows, opened by its button, and drags of the mouse."""
-from support.bed import ScreenTest, move, xdotool
+from support.bed import ScreenTest, move, scaled, xdotool
 
 OPENED = "Vellora1.DropDown(I4 0)"
 CLOSED = "Vellora1.DropDown(I4 1)"
@@ -8,7 +8,8 @@ NOWHERE = (1000, 900)
 
 
 class ListOfRowsTest(ScreenTest):
-    """A control of the settings `bag`, with the rows `rows`; the events of its making are forgotten."""
+    """A control of the settings `bag`, with the rows `rows`; the events of its making are forgotten. Its place is in
+    pixels at 96 dots per inch."""
 
     bag = {"Columns": 1}
     place = (20, 20, 200, 24)
@@ -16,7 +17,7 @@ class ListOfRowsTest(ScreenTest):
 
     def setUp(self):
         super().setUp()
-        self.host.create(place=self.place, bag=self.bag)
+        self.host.create(place=[scaled(length) for length in self.place], bag=self.bag)
         self.host.fill(self.rows)
         self.host.activate()
         self.host.events()
