@@ -18,6 +18,8 @@ public:
     int for_content(std::int32_t column);
     /// Content or caption, whichever is wider; the last column also takes what the others leave.
     int for_content_and_header(std::int32_t column);
+    /// What the icon of a header takes beside the caption; 0 without one.
+    int icon_width(std::int32_t column) const;
     /// To be called when the list has another font.
     void font_changed() { measure_.invalidate(); }
 
@@ -25,7 +27,6 @@ private:
     void keep_up() noexcept;
     HFONT font() const;
     int for_caption(std::int32_t column) const;
-    int icon_width(std::int32_t column) const;
     int left_over(std::int32_t column) const;
 
     const ListWindow& window_;

@@ -30,7 +30,8 @@ bool is_input(UINT message) {
 
 ListViewPeer::ListViewPeer(HWND surface, FocusTracker& focus, const TextCompare& compare)
     : focus_(focus), window_(surface), rows_(compare), mirror_(window_, rows_), headers_(window_),
-      header_icons_(window_, headers_), widths_(window_, headers_, rows_), item_messages_(window_, rows_),
+      header_icons_(window_, headers_), widths_(window_, headers_, rows_),
+      caption_ends_(window_, headers_, widths_), item_messages_(window_, rows_),
       column_messages_(window_, headers_, widths_, mirror_), display_(rows_), appearance_(window_),
       input_(window_, rows_, mirror_), tool_tip_(window_, rows_),
       font_([this](HFONT font) { apply_font(font); }) {
@@ -73,7 +74,9 @@ std::optional<LRESULT> ListViewPeer::answer(const WindowMessage& message) {
         return text;
     if (const auto item = item_messages_.answer(message))
         return item;
-    return column_messages_.answer(message);
+    if (const auto column = column_messages_.answer(message))
+        return column;
+    return caption_ends_.answer(message);
 }
 
 LRESULT ListViewPeer::pass_on(const WindowMessage& message) {

@@ -6,6 +6,7 @@
 #include "widgets/win32/focus_tracker.h"
 #include "widgets/win32/lifeline.h"
 #include "widgets/win32/list_appearance.h"
+#include "widgets/win32/list_caption_ends.h"
 #include "widgets/win32/list_column_messages.h"
 #include "widgets/win32/list_display.h"
 #include "widgets/win32/list_header_icons.h"
@@ -87,6 +88,7 @@ private:
     ListHeaders headers_;
     ListHeaderIcons header_icons_;
     ListColumnWidths widths_;
+    ListCaptionEnds caption_ends_;
     ListItemMessages item_messages_;
     ListColumnMessages column_messages_;
     ListDisplay display_;

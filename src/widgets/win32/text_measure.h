@@ -1,8 +1,11 @@
-// Measures texts in a font of the window system.
+// Measures texts in a font of the window system, as they are drawn. Some platforms measure a font by other hints than
+// they draw it with; its letters then stand further apart than the text functions say.
 #pragma once
 
 #include "widgets/text_measurer.h"
 #include "widgets/win32/handles.h"
+
+#include <vector>
 
 namespace vellora::win32 {
 
@@ -16,10 +19,16 @@ public:
 
     std::int32_t width(std::u16string_view text) const override;
     std::int32_t character_width(char16_t unit) const override;
+    /// What the text functions say, by which they also cut a text.
+    std::int32_t extent(std::u16string_view text) const;
 
 private:
+    bool draws_wider_than(std::u16string_view text) const;
+    std::int32_t surplus(char16_t unit) const;
+
     UniqueMemoryDc dc_;
     HGDIOBJ former_font_;
+    mutable std::vector<std::int8_t> surplus_; // of each unit met; empty for a font that is drawn as measured
 };
 
 } // namespace vellora::win32
