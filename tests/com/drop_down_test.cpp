@@ -96,6 +96,25 @@ TEST_F(DropDown, TheToggleButtonToo) {
     EXPECT_TRUE(same_lines({"DropDown(I4 0)", "DropDown(I4 1)"}, toggle.events().take()));
 }
 
+// A program that is busy finds both clicks waiting.
+TEST_F(DropDown, AQuickDoubleClickOpensAndCloses) {
+    ComPtr<PropertyBag> bag(new PropertyBag);
+    bag->put(L"ButtonStyle", 1);
+    Site& toggle = container_.load(__uuidof(Vellora), *bag.Get(), L"Toggle", {20, 80, 220, 104});
+    HWND button = drop_button(window_of(toggle));
+    POINT point{3, 3};
+    const LPARAM where = MAKELPARAM(point.x, point.y);
+    ClientToScreen(button, &point);
+    SetCursorPos(point.x, point.y);
+    for (int click = 0; click < 2; ++click) {
+        PostMessageW(button, WM_LBUTTONDOWN, MK_LBUTTON, where);
+        PostMessageW(button, WM_LBUTTONUP, 0, where);
+    }
+    container_.pump();
+    EXPECT_FALSE(is_open());
+    EXPECT_TRUE(same_lines({"DropDown(I4 0)", "DropDown(I4 1)"}, toggle.events().take()));
+}
+
 TEST_F(DropDown, OpeningSelectsTheWholeText) {
     fill(3);
     c().put_ListIndex(1);

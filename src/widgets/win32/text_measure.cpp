@@ -19,6 +19,9 @@ HGDIOBJ usable(HFONT font) {
 constexpr std::int8_t unknown_surplus = INT8_MIN;
 constexpr std::size_t number_of_units = 0x10000;
 
+// Pixels of a line. Hints move no more than a part of a pixel, which tells in small letters only.
+constexpr LONG tallest_sampled = 64;
+
 // Several of a letter, so that a pixel for each stands out from the one by which a single letter may hang over.
 constexpr std::array<std::u16string_view, 4> samples{u"mmmm", u"wwww", u"nnnn", u"0000"};
 
@@ -98,6 +101,8 @@ bool TextMeasure::draws_wider_than(std::u16string_view text) const {
     SIZE size{};
     const auto length = static_cast<int>(text.size());
     GetTextExtentPoint32W(dc_.get(), wide(text.data()), length, &size);
+    if (size.cy > tallest_sampled)
+        return false;
     const Paper paper(dc_.get(), {2 * size.cx, size.cy});
     TextOutW(dc_.get(), 0, 0, wide(text.data()), length);
     return paper.is_marked_right_of(size.cx);
