@@ -17,8 +17,8 @@ ConstituentPeers::ConstituentPeers(HWND parking, const TextCompare& compare,
                   {surface, win32::TextAlignment::centered}}},
       buttons{{{surface, 0}, {surface, 1, second_button_looks_pressed_at}}},
       list(surface.handle(), surface.focus_tracker(), compare),
-      frame(surface), left_line(frame), right_line(frame), bottom_line(frame),
-      grip{win32::LabelPeer(frame), win32::LabelPeer(frame)}, user32(surface.focus_tracker(), floating) {
+      frame(surface), grip{win32::LabelPeer(frame), win32::LabelPeer(frame)}, left_line(frame),
+      right_line(frame), bottom_line(frame), user32(surface.focus_tracker(), floating) {
     text_boxes[0].set_visible(true);
 }
 

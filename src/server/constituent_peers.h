@@ -29,10 +29,11 @@ struct ConstituentPeers {
     std::array<win32::CheckButtonPeer, 2> buttons;
     win32::ListViewPeer list;
     win32::FramePeer frame;
+    // Painted in this order: the border stays whole where the grip reaches it.
+    std::array<win32::LabelPeer, 2> grip;
     win32::LinePeer left_line;
     win32::LinePeer right_line;
     win32::LinePeer bottom_line;
-    std::array<win32::LabelPeer, 2> grip;
     win32::User32Peer user32;
     win32::FormWatchPeer form_watch;
 };

@@ -168,3 +168,16 @@ class ListBorderTest(LookTest):
         self.host.put("Vellora1", "HideColumnHeaders", True)
         self.open()
         self.assert_border("no-headers")
+
+    def test_around_the_grip(self):
+        self.create(rows=3)
+        self.host.put("Vellora1", "AllowResize", True)
+        self.open()
+        shown = self.picture("grip")
+        left, _, right, bottom = self.host.rect("floating")
+        top = self.host.rect("list")[3]
+        for edge, rect in {"left": [left, top, left + 1, bottom], "right": [right - 1, top, right, bottom],
+                           "bottom": [left, bottom - 1, right, bottom]}.items():
+            self.assertEqual(1, len(shown.colors(rect)), edge)
+        corner = [right - (bottom - top), top, right - 1, bottom - 1]
+        self.assertGreater(len(shown.colors(corner)), 2, "no grip")
