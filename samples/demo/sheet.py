@@ -146,8 +146,8 @@ def make_sheet(folder, dpi, styled=False):
     sheet = Sheet(dpi, styled)
     try:
         with tempfile.TemporaryDirectory() as parts:
-            _assemble(_photograph_all(sheet, parts), f"Closed, disabled, open at {dpi} dots per inch",
-                      os.path.join(folder, name))
+            looks = f"{dpi} dots per inch" + (" under visual styles" if styled else "")
+            _assemble(_photograph_all(sheet, parts), f"Closed, disabled, open at {looks}", os.path.join(folder, name))
     finally:
         sheet.close()
     return name
