@@ -20,11 +20,21 @@ std::intptr_t address_of(std::vector<std::int32_t>& columns) {
 
 ColumnOrder::ColumnOrder(ControlCore& core, ColumnSet& columns) : core_(core), columns_(columns) {}
 
-VariantResult ColumnOrder::Order() {
+std::vector<std::int32_t> ColumnOrder::places() {
     columns_.ensure_headers();
     std::vector<std::int32_t> columns(static_cast<std::size_t>(core_.parts.ListView1.header_count()));
     core_.user32.send_message(core_.parts.ListView1.window(), message::list_get_column_order, columns.size(),
                               address_of(columns));
+    return columns;
+}
+
+void ColumnOrder::put_places(std::vector<std::int32_t> columns) {
+    core_.user32.send_message(core_.parts.ListView1.window(), message::list_set_column_order, columns.size(),
+                              address_of(columns));
+}
+
+VariantResult ColumnOrder::Order() {
+    const auto columns = places();
     std::vector<std::int16_t> order;
     order.reserve(columns.size());
     for (const std::int32_t column : columns) {
@@ -35,9 +45,7 @@ VariantResult ColumnOrder::Order() {
 
 void ColumnOrder::put_Order(const VariantArgument& order) {
     columns_.ensure_headers();
-    auto columns = checked_order(order, core_.parts.ListView1.header_count());
-    core_.user32.send_message(core_.parts.ListView1.window(), message::list_set_column_order, columns.size(),
-                              address_of(columns));
+    put_places(checked_order(order, core_.parts.ListView1.header_count()));
 }
 
 std::vector<std::int32_t> ColumnOrder::checked_order(const VariantArgument& order, std::int32_t count) const {

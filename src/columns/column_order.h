@@ -21,6 +21,10 @@ public:
     /// bound Columns - 1.
     void put_Order(const VariantArgument& order);
 
+    /// The same as numbers from 0, and without questions.
+    std::vector<std::int32_t> places();
+    void put_places(std::vector<std::int32_t> columns);
+
     bool AllowColumnReorder() const;
     void put_AllowColumnReorder(bool allow);
 

@@ -14,6 +14,7 @@ Control::Control(const ControlEnvironment& environment)
       selection_(core_, object_, drop_down_), check_boxes_(core_), sort_and_search_(core_),
       placement_(core_), resize_frame_(core_), resize_grip_(core_, resize_frame_),
       list_messages_(core_, environment.message_module, drop_down_),
+      list_keys_(core_, column_order_, list_messages_, resize_grip_),
       wiring_(std::make_unique<Wiring>(*this, environment.form_watch)),
       MsgHandler_(environment.message_module, *wiring_),
       floating_window_(core_, placement_, resize_frame_, selection_, MsgHandler_),

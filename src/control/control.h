@@ -16,6 +16,7 @@
 #include "dropdown/clsMsgHandler.h"
 #include "dropdown/drop_down.h"
 #include "dropdown/floating_window.h"
+#include "dropdown/list_keys.h"
 #include "dropdown/list_messages.h"
 #include "dropdown/placement.h"
 #include "dropdown/resize_frame.h"
@@ -97,6 +98,7 @@ private:
     ResizeFrame resize_frame_;
     ResizeGrip resize_grip_;
     ListMessages list_messages_;
+    ListKeys list_keys_;
     std::unique_ptr<Wiring> wiring_;
     clsMsgHandler MsgHandler_;
     FloatingWindow floating_window_;

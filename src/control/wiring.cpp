@@ -107,11 +107,13 @@ void Control::Wiring::list_item_checked(std::int32_t row) {
 
 void Control::Wiring::list_key_down(std::int16_t& key_code, std::int16_t shift) {
     const auto held = hold();
+    control_.list_keys_.list_key_down(key_code, shift);
     control_.selection_.list_key_down(key_code, shift);
 }
 
 void Control::Wiring::list_key_press(std::int16_t& key_ascii) {
     const auto held = hold();
+    control_.list_keys_.list_key_press(key_ascii);
     control_.selection_.list_key_press(key_ascii);
 }
 

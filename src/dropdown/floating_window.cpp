@@ -127,6 +127,7 @@ void FloatingWindow::tear_down() {
     MsgHandler_.UnSetHook();
     take_frame_back(floating);
     ListView& list = core_.parts.ListView1;
+    list.mark_header(0);
     list.set_visible(false);
     core_.user32.set_parent(list.window(), core_.surface.window());
     core_.user32.destroy_window(floating);

@@ -16,10 +16,11 @@ public:
     void MsgHandler_MessageRecieved(std::uint32_t uMsg, std::uintptr_t wParam, std::intptr_t lParam,
                                     std::intptr_t& lRetVal);
 
-private:
-    void header_notified(std::uintptr_t wParam, std::intptr_t lParam, std::intptr_t& lRetVal);
     /// Whether the header may still carry out the new order: not when the program has made other columns meanwhile.
     bool column_dragged();
+
+private:
+    void header_notified(std::uintptr_t wParam, std::intptr_t lParam, std::intptr_t& lRetVal);
     bool refuses_divider(WindowHandle header) const;
 
     ControlCore& core_;

@@ -74,6 +74,12 @@ void ResizeGrip::lblShangle_MouseMove() {
 
 void ResizeGrip::lblShangle_MouseUp() { mbResizing_ = false; }
 
+void ResizeGrip::pull(std::int32_t across, std::int32_t down) {
+    if (const auto window = core_.user32.window_rect(core_.state.mlStatic_hWnd)) {
+        resize(*window, window->right + across, window->bottom + down);
+    }
+}
+
 ResizeGrip::Distance ResizeGrip::to_edges(const PixelRect& window, PixelPoint cursor) const {
     return {window.right - cursor.x, window.bottom - cursor.y};
 }

@@ -20,6 +20,9 @@ public:
     void lblShangle_MouseMove();
     void lblShangle_MouseUp();
 
+    /// Pulls the corner of the open list without a mouse, by pixels.
+    void pull(std::int32_t across, std::int32_t down);
+
 private:
     struct Distance {
         std::int32_t x;

@@ -59,6 +59,11 @@ public:
     /// Takes all images from the list anew, which is the host's and changes without a word.
     virtual void renew_header_icons() = 0;
 
+    /// The header that the keyboard acts on, shown as such; 0 for none.
+    virtual std::int32_t marked_header() const = 0;
+    /// Scrolls it into view. The keyboard focus itself stays with the list.
+    virtual void mark_header(std::int32_t column) = 0;
+
     virtual bool hide_column_headers() const = 0;
     virtual void set_hide_column_headers(bool hide) = 0;
     virtual bool allow_column_reorder() const = 0;

@@ -176,6 +176,11 @@ void ListRowsMirror::adopt_selection() {
     rows_.select(selected_);
 }
 
+void ListRowsMirror::announce_focus() const {
+    if (GetFocus() == window_.handle())
+        NotifyWinEvent(EVENT_OBJECT_FOCUS, window_.handle(), OBJID_CLIENT, focused_ + 1);
+}
+
 void ListRowsMirror::settle_scroll_bars() {
     if (!window_.handle())
         return;

@@ -29,6 +29,8 @@ public:
     bool note(const NMHDR& header);
     /// The row on which the keyboard acts, -1 for none.
     std::int32_t focused_row() const { return focused_; }
+    /// Tells assistive software that the keyboard is with the rows again.
+    void announce_focus() const;
 
     void rows_changed() override;
     void row_changed(std::int32_t row) override;

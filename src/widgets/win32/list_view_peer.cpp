@@ -30,7 +30,7 @@ bool is_input(UINT message) {
 
 ListViewPeer::ListViewPeer(HWND surface, FocusTracker& focus, const TextCompare& compare)
     : focus_(focus), window_(surface), rows_(compare), mirror_(window_, rows_), headers_(window_),
-      header_icons_(window_, headers_), widths_(window_, headers_, rows_),
+      header_icons_(window_, headers_), header_mark_(window_), widths_(window_, headers_, rows_),
       caption_ends_(window_, headers_, widths_), item_messages_(window_, rows_),
       column_messages_(window_, headers_, widths_, mirror_), display_(rows_), appearance_(window_),
       input_(window_, rows_, mirror_), tool_tip_(window_, rows_),
@@ -74,9 +74,9 @@ std::optional<LRESULT> ListViewPeer::answer(const WindowMessage& message) {
         return text;
     if (const auto item = item_messages_.answer(message))
         return item;
-    if (const auto column = column_messages_.answer(message))
-        return column;
-    return caption_ends_.answer(message);
+    if (const auto drawn = caption_ends_.answer(message))
+        return header_mark_.draw_over(message) ? CDRF_SKIPDEFAULT : drawn;
+    return column_messages_.answer(message);
 }
 
 LRESULT ListViewPeer::pass_on(const WindowMessage& message) {
@@ -185,6 +185,17 @@ void ListViewPeer::set_column_header_icons(const ImageListRef& icons) {
 
 void ListViewPeer::set_header_icon(std::int32_t column, std::u16string_view key) {
     header_icons_.set(column - 1, key);
+}
+
+std::int32_t ListViewPeer::marked_header() const {
+    const std::int32_t column = header_mark_.column() + 1;
+    return column <= header_count() ? column : 0;
+}
+
+void ListViewPeer::mark_header(std::int32_t column) {
+    header_mark_.put(column - 1);
+    if (column == 0)
+        mirror_.announce_focus();
 }
 
 // ---- Styles ----

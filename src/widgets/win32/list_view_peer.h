@@ -10,6 +10,7 @@
 #include "widgets/win32/list_column_messages.h"
 #include "widgets/win32/list_display.h"
 #include "widgets/win32/list_header_icons.h"
+#include "widgets/win32/list_header_mark.h"
 #include "widgets/win32/list_input.h"
 #include "widgets/win32/list_item_messages.h"
 #include "widgets/win32/list_tool_tip.h"
@@ -52,6 +53,9 @@ public:
     void set_header_icon(std::int32_t column, std::u16string_view key) override;
     void renew_header_icons() override { header_icons_.renew(); }
 
+    std::int32_t marked_header() const override;
+    void mark_header(std::int32_t column) override;
+
     bool hide_column_headers() const override;
     void set_hide_column_headers(bool hide) override;
     bool allow_column_reorder() const override;
@@ -87,6 +91,7 @@ private:
     ListRowsMirror mirror_;
     ListHeaders headers_;
     ListHeaderIcons header_icons_;
+    ListHeaderMark header_mark_;
     ListColumnWidths widths_;
     ListCaptionEnds caption_ends_;
     ListItemMessages item_messages_;

@@ -42,6 +42,9 @@ public:
     void set_header_icon(std::int32_t column, std::u16string_view key) override;
     void renew_header_icons() override;
 
+    std::int32_t marked_header() const override { return marked_header_; }
+    void mark_header(std::int32_t column) override { marked_header_ = column; }
+
     bool hide_column_headers() const override { return hide_column_headers_; }
     void set_hide_column_headers(bool hide) override { hide_column_headers_ = hide; }
     bool allow_column_reorder() const override { return allow_column_reorder_; }
@@ -102,6 +105,7 @@ private:
     std::vector<std::int32_t> order_;
     WindowHandle header_window_ = 0;
     float row_height_ = 255;
+    std::int32_t marked_header_ = 0;
     bool hide_column_headers_ = false;
     bool allow_column_reorder_ = false;
     bool check_boxes_ = false;
