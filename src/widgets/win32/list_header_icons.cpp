@@ -39,7 +39,7 @@ void ListHeaderIcons::set_list(const ImageListRef& list) {
 }
 
 void ListHeaderIcons::set(std::int32_t column, std::u16string_view key) {
-    headers_.icon(column);
+    headers_.require(column);
     copy_list();
     const int found = key.empty() ? no_image : image(key);
     if (!key.empty() && found == no_image)

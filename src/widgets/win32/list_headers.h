@@ -19,6 +19,8 @@ public:
     explicit ListHeaders(const ListWindow& window) : window_(window) {}
 
     std::int32_t count() const { return static_cast<std::int32_t>(headers_.size()); }
+    /// Raises 35600 now rather than after something else was done for the column.
+    void require(std::int32_t column) const { at(column); }
     void clear();
     void add(std::u16string_view text, int width);
 
