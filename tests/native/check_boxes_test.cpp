@@ -138,6 +138,34 @@ TEST(CheckedItems, ListsTheRowsThatAreChecked) {
     EXPECT_EQ(checked_items(combo), (Checked{1, 3}));
 }
 
+TEST(CheckedItems, ListsAHundredThousandRowsThoughTheCountIsAnInteger) {
+    constexpr std::int32_t many = 100'000;
+    HeadlessControl combo;
+    ListRows& rows = combo.list_view.rows();
+    for (std::int32_t row = 0; row < many; ++row) {
+        rows.append();
+        rows.set_checked(row, true);
+    }
+    EXPECT_EQ(combo.check_boxes().CheckedCount(), 32767);
+    const Checked items = checked_items(combo);
+    ASSERT_EQ(items.size(), 100'000U);
+    EXPECT_EQ(items.back(), many - 1);
+}
+
+// Like everything that has a row in an Integer.
+TEST(Checked, ByTheUserBeyondAnIntegersReachOverflows) {
+    HeadlessControl combo;
+    while (combo.list_view.rows().count() < 32769) {
+        combo.list_view.rows().append();
+    }
+    User user(combo);
+    user.click_check_box(32767);
+    EXPECT_EQ(combo.journal().take_events(), Lines{"ItemCheck(32767, True)"});
+    EXPECT_EQ(failure_of([&] { user.click_check_box(32768); }).number, 6);
+    EXPECT_TRUE(combo.list_view.rows().checked(32768));
+    EXPECT_EQ(checked_items(combo), (Checked{32767, 32768}));
+}
+
 TEST(CheckedItems, HasOneEmptyElementWhenNoneIsChecked) {
     FourRows combo;
     EXPECT_EQ(combo.check_boxes().CheckedCount(), 0);
