@@ -4,10 +4,19 @@
 
 namespace vellora::test {
 
-void OpenListTest::SetUp() {
-    site_ = &place();
-    control_ = vellora(*site_);
-    site_->events().ignore("MouseMove");
+void OpenListTest::SetUp() { use(place()); }
+
+void OpenListTest::use(Site& site) {
+    site_ = &site;
+    control_ = vellora(site);
+    site.events().ignore("MouseMove");
+}
+
+Site& OpenListTest::place_with_check_boxes() {
+    const ComPtr<PropertyBag> bag(new PropertyBag);
+    bag->put(L"Columns", 1);
+    bag->put(L"CheckBoxes", true);
+    return container_.load(__uuidof(Vellora), *bag.Get(), L"Checked", {20, 60, 220, 84});
 }
 
 void OpenListTest::fill(int rows, short columns) {

@@ -8,6 +8,10 @@ namespace vellora::test {
 class OpenListTest : public HostTest {
 protected:
     void SetUp() override;
+    /// Lets `site()` and `c()` mean another control.
+    void use(Site& site);
+    /// A control that shows check boxes, which only a saved setting switches on.
+    Site& place_with_check_boxes();
     Site& site() { return *site_; }
     _Vellora& c() { return *control_.Get(); }
     void fill(int rows, short columns = 1);
@@ -21,6 +25,21 @@ protected:
     void click(HWND window, const RECT& on_screen);
     void click_button();
     void key(HWND window, WORD code);
+    /// Holds Shift, Ctrl or Alt down for the thread until the end.
+    class Held {
+    public:
+        explicit Held(int modifier) : modifier_(modifier) { set(0x80); }
+        ~Held() { set(0); }
+
+    private:
+        void set(BYTE state) const {
+            BYTE keys[256];
+            GetKeyboardState(keys);
+            keys[modifier_] = state;
+            SetKeyboardState(keys);
+        }
+        int modifier_;
+    };
     long list_index();
     std::wstring text();
     /// Another control of the host's own that can take the focus.

@@ -23,21 +23,6 @@ protected:
         events();
     }
     void press(WORD code) { key(field(), code); }
-    /// Holds Shift, Ctrl or Alt down for the thread until the end.
-    class Held {
-    public:
-        explicit Held(int modifier) : modifier_(modifier) { set(0x80); }
-        ~Held() { set(0); }
-
-    private:
-        void set(BYTE state) const {
-            BYTE keys[256];
-            GetKeyboardState(keys);
-            keys[modifier_] = state;
-            SetKeyboardState(keys);
-        }
-        int modifier_;
-    };
     std::wstring selected_text() {
         Bstr text;
         c().get_SelText(text.out());
