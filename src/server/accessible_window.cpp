@@ -41,6 +41,8 @@ bool is_self(const VARIANT& child) noexcept { return child.vt == VT_I4 && child.
 AccessibleWindow::AccessibleWindow(HWND window, const AccessibleControl& control) : control_(control) {
     com::check(CreateStdAccessibleObject(window, OBJID_CLIENT, IID_IAccessible,
                                          reinterpret_cast<void**>(platform_.GetAddressOf())));
+    com::check(platform_.As(&children_));
+    com::check(platform_.As(&window_));
 }
 
 Accessibility& AccessibleWindow::behaviour() const {
@@ -54,9 +56,14 @@ STDMETHODIMP AccessibleWindow::QueryInterface(REFIID id, void** out) noexcept {
     if (out == nullptr) {
         return E_POINTER;
     }
-    const bool known = id == IID_IUnknown || id == IID_IDispatch || id == IID_IAccessible;
-    *out = known ? static_cast<IAccessible*>(this) : nullptr;
-    if (!known) {
+    if (id == IID_IUnknown || id == IID_IDispatch || id == IID_IAccessible) {
+        *out = static_cast<IAccessible*>(this);
+    } else if (id == IID_IEnumVARIANT) {
+        *out = static_cast<IEnumVARIANT*>(this);
+    } else if (id == IID_IOleWindow) {
+        *out = static_cast<IOleWindow*>(this);
+    } else {
+        *out = nullptr;
         return E_NOINTERFACE;
     }
     AddRef();
@@ -182,6 +189,22 @@ STDMETHODIMP AccessibleWindow::put_accName(VARIANT child, BSTR name) noexcept {
 
 STDMETHODIMP AccessibleWindow::put_accValue(VARIANT child, BSTR value) noexcept {
     return platform_->put_accValue(child, value);
+}
+
+STDMETHODIMP AccessibleWindow::Next(ULONG count, VARIANT* children, ULONG* fetched) noexcept {
+    return children_->Next(count, children, fetched);
+}
+
+STDMETHODIMP AccessibleWindow::Skip(ULONG count) noexcept { return children_->Skip(count); }
+
+STDMETHODIMP AccessibleWindow::Reset() noexcept { return children_->Reset(); }
+
+STDMETHODIMP AccessibleWindow::Clone(IEnumVARIANT** copy) noexcept { return children_->Clone(copy); }
+
+STDMETHODIMP AccessibleWindow::GetWindow(HWND* window) noexcept { return window_->GetWindow(window); }
+
+STDMETHODIMP AccessibleWindow::ContextSensitiveHelp(BOOL enter) noexcept {
+    return window_->ContextSensitiveHelp(enter);
 }
 
 } // namespace vellora::server

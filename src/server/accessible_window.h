@@ -20,7 +20,7 @@ struct AccessibleControl {
     HWND surface = nullptr;
 };
 
-class AccessibleWindow : public IAccessible {
+class AccessibleWindow : public IAccessible, public IEnumVARIANT, public IOleWindow {
 public:
     /// Throws com::ComFailure when the platform tells nothing of the window.
     AccessibleWindow(HWND window, const AccessibleControl& control);
@@ -59,6 +59,15 @@ public:
     STDMETHODIMP put_accName(VARIANT child, BSTR name) noexcept override;
     STDMETHODIMP put_accValue(VARIANT child, BSTR value) noexcept override;
 
+    /// The children, which the platform's AccessibleChildren asks for in this way.
+    STDMETHODIMP Next(ULONG count, VARIANT* children, ULONG* fetched) noexcept override;
+    STDMETHODIMP Skip(ULONG count) noexcept override;
+    STDMETHODIMP Reset() noexcept override;
+    STDMETHODIMP Clone(IEnumVARIANT** copy) noexcept override;
+
+    STDMETHODIMP GetWindow(HWND* window) noexcept override;
+    STDMETHODIMP ContextSensitiveHelp(BOOL enter) noexcept override;
+
 protected:
     virtual ~AccessibleWindow() = default;
 
@@ -71,6 +80,8 @@ private:
     std::atomic<ULONG> references_{1};
     AccessibleControl control_;
     com::ComPtr<IAccessible> platform_;
+    com::ComPtr<IEnumVARIANT> children_;
+    com::ComPtr<IOleWindow> window_;
 };
 
 /// Whether a request is about the object itself rather than one of its parts.

@@ -2,8 +2,10 @@
 #include "com/support/open_list_test.h"
 #include "support/container/text.h"
 
+#include <algorithm>
 #include <commctrl.h>
 #include <oleacc.h>
+#include <vector>
 
 namespace vellora::test {
 namespace {
@@ -97,6 +99,57 @@ TEST_F(AccessibilityTest, ExpandsAndCollapses) {
     ASSERT_EQ(S_OK, combo_->accDoDefaultAction(self()));
     container_.pump();
     EXPECT_FALSE(is_open());
+}
+
+TEST_F(AccessibilityTest, NamesItsWindow) {
+    ComPtr<IOleWindow> window;
+    ASSERT_EQ(S_OK, combo_.As(&window));
+    HWND handle = nullptr;
+    EXPECT_EQ(S_OK, window->GetWindow(&handle));
+    EXPECT_EQ(control(), handle);
+    EXPECT_EQ(S_OK, WindowFromAccessibleObject(combo_.Get(), &handle));
+    EXPECT_EQ(control(), handle);
+    ComPtr<IAccessible> back;
+    ASSERT_EQ(S_OK, window.As(&back));
+    EXPECT_EQ(L"Vellora1", name(*back.Get()));
+}
+
+TEST_F(AccessibilityTest, HasTheFieldAmongItsChildren) {
+    long count = 0;
+    ASSERT_EQ(S_OK, combo_->get_accChildCount(&count));
+    std::vector<VARIANT> children(static_cast<std::size_t>(count));
+    long found = 0;
+    ASSERT_EQ(S_OK, AccessibleChildren(combo_.Get(), 0, count, children.data(), &found));
+    EXPECT_EQ(count, found);
+    std::vector<HWND> windows;
+    for (VARIANT& child : children) {
+        HWND window = nullptr;
+        ComPtr<IAccessible> object;
+        if (child.vt == VT_DISPATCH && SUCCEEDED(child.pdispVal->QueryInterface(object.GetAddressOf())))
+            WindowFromAccessibleObject(object.Get(), &window);
+        windows.push_back(window);
+        VariantClear(&child);
+    }
+    EXPECT_NE(windows.end(), std::find(windows.begin(), windows.end(), text_field(control())));
+}
+
+TEST_F(AccessibilityTest, AnswersForItsChildrenOneByOneToo) {
+    ComPtr<IEnumVARIANT> children;
+    ASSERT_EQ(S_OK, combo_.As(&children));
+    long count = 0;
+    combo_->get_accChildCount(&count);
+    ASSERT_GE(count, 2);
+    EXPECT_EQ(S_OK, children->Reset());
+    EXPECT_EQ(S_OK, children->Skip(static_cast<ULONG>(count - 1)));
+    VARIANT child{};
+    ULONG fetched = 0;
+    EXPECT_EQ(S_OK, children->Next(1, &child, &fetched));
+    EXPECT_EQ(1U, fetched);
+    VariantClear(&child);
+    EXPECT_EQ(S_FALSE, children->Next(1, &child, &fetched));
+    EXPECT_EQ(S_OK, children->Reset());
+    EXPECT_EQ(S_OK, children->Next(1, &child, &fetched));
+    VariantClear(&child);
 }
 
 TEST_F(AccessibilityTest, RefusesWhatAUserCouldNotDo) {
