@@ -21,6 +21,13 @@ target_link_libraries(com_tests PRIVATE
 # The tests load the library by its path, so nothing but this makes it.
 add_dependencies(com_tests VelloraCTL)
 
+# What a screen reader does, in a process of its own.
+file(GLOB list_reader_sources CONFIGURE_DEPENDS ${tests_dir}/support/list_reader/*.cpp)
+add_executable(list_reader ${list_reader_sources})
+target_include_directories(list_reader PRIVATE ${tests_dir})
+target_link_libraries(list_reader PRIVATE vellora_options ${host_libraries} oleacc)
+add_dependencies(com_tests list_reader)
+
 include(${tests_dir}/hosting/hosting.cmake)
 
 # screen/: a form that the Python tests drive line by line.
