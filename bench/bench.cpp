@@ -1,5 +1,6 @@
 // Measures the control beside the platform's own list, both filled with the same rows in the same process,
 // and says which bounds are met. The exit code is 1 when one is missed.
+#include "check_bench.h"
 #include "native_list.h"
 #include "report.h"
 #include "sample_rows.h"
@@ -154,6 +155,7 @@ int run() {
     measure_adding_unknown(bench.report, bench.list);
     measure_sorting(bench.report);
     measure_looking_up(bench.report, bench.list, bench.short_list, bench.rows);
+    measure_checking(bench.report, bench.list, bench.native, bench.rows);
     bench.opening(false);
     bench.opening(true);
     std::printf("\n%s\n", bench.report.all_met() ? "All bounds are met." : "Not all bounds are met.");

@@ -15,6 +15,8 @@ public:
     NativeList(const NativeList&) = delete;
     NativeList& operator=(const NativeList&) = delete;
 
+    HWND window() const { return window_; }
+
     void add(SampleRows& rows, int count);
     void clear();
     /// Reads each text of the first rows; the number of units read.

@@ -3,6 +3,7 @@
 #include "support/container/control_windows.h"
 #include "support/container/text.h"
 
+#include <commctrl.h>
 #include <string>
 
 namespace vellora::bench {
@@ -31,6 +32,9 @@ VelloraList::VelloraList(test::Container& container, const std::wstring& name, i
     add_item_ = identifier(L"AddItem");
     list_ = identifier(L"List");
     check(vellora_->put_Columns(columns));
+    long control = 0;
+    check(vellora_->get_hWnd(&control));
+    list_window_ = FindWindowExW(reinterpret_cast<HWND>(static_cast<LONG_PTR>(control)), nullptr, WC_LISTVIEWW, nullptr);
 }
 
 DISPID VelloraList::identifier(const wchar_t* member) {
@@ -125,6 +129,17 @@ void VelloraList::type(wchar_t character) {
     PostMessageW(window, WM_CHAR, character, 1);
     container_.pump();
     SendMessageW(window, WM_KEYUP, VK_PACKET, static_cast<LPARAM>(0xC0000001U));
+}
+
+short VelloraList::checked_count() {
+    short count = 0;
+    check(vellora_->get_CheckedCount(&count));
+    return count;
+}
+
+void VelloraList::checked_items() {
+    test::Variant items;
+    check(vellora_->CheckedItems(items.out()));
 }
 
 void VelloraList::open_and_close() {

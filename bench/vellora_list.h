@@ -39,6 +39,11 @@ public:
     void be_about_to_type(const std::wstring& text);
     /// A key down, its character and the key up, with everything painted that follows from it.
     void type(wchar_t character);
+    void check_row(short row) { check(vellora_->put_Checked(row, VARIANT_TRUE)); }
+    short checked_count();
+    void checked_items();
+    /// The native list inside the control.
+    HWND list_window() const { return list_window_; }
 
     void auto_size(bool on) { check(vellora_->put_AutoSize(on ? vlContents : vlNone)); }
     /// Opens the list, lets it paint, and closes it.
@@ -53,6 +58,7 @@ private:
     Microsoft::WRL::ComPtr<IDispatch> dispatch_;
     DISPID add_item_;
     DISPID list_;
+    HWND list_window_;
 };
 
 } // namespace vellora::bench
