@@ -1,6 +1,7 @@
 #include "dropdown/list_keys.h"
 
 #include "columns/column_order.h"
+#include "columns/held_column.h"
 #include "control/keys.h"
 #include "dropdown/list_messages.h"
 #include "dropdown/resize_grip.h"
@@ -92,7 +93,7 @@ void ListKeys::go(int direction) {
 void ListKeys::widen(int direction) {
     ListView& list = core_.parts.ListView1;
     const std::int32_t column = marked();
-    if (!is_held(column)) {
+    if (!is_column_held(core_.state, column)) {
         const auto step = static_cast<float>(direction * width_step * core_.state.miTwipsPerPixelX);
         list.set_header_width(column, std::max(0.0F, list.header_width(column) + step));
         list.mark_header(column);
@@ -121,7 +122,7 @@ void ListKeys::move(int direction) {
 void ListKeys::fit_columns() {
     ListView& list = core_.parts.ListView1;
     for (std::int32_t column = 1; column <= list.header_count(); ++column) {
-        if (!is_held(column)) {
+        if (!is_column_held(core_.state, column)) {
             core_.user32.send_message(list.window(), message::list_set_column_width,
                                       static_cast<std::uintptr_t>(column - 1), width_of_contents);
         }
@@ -143,10 +144,6 @@ std::int32_t ListKeys::marked() const {
 
 bool ListKeys::is_hidden(std::int32_t column) const {
     return core_.state.mabColumnHidden[checked_slot(column, maximum_columns)];
-}
-
-bool ListKeys::is_held(std::int32_t column) const {
-    return is_hidden(column) || core_.state.mabColumnLocked[checked_slot(column, maximum_columns)];
 }
 
 int ListKeys::place_of_marked(const Order& order) const {

@@ -36,7 +36,6 @@ private:
 
     std::int32_t marked() const;
     bool is_hidden(std::int32_t column) const;
-    bool is_held(std::int32_t column) const;
     int place_of_marked(const Order& order) const;
     int shown_beside(const Order& order, int place, int direction) const;
 

@@ -1,8 +1,8 @@
 #include "dropdown/list_messages.h"
 
+#include "columns/held_column.h"
 #include "dropdown/drop_down.h"
 #include "dropdown/modMessageHandler.h"
-#include "runtime/checked.h"
 
 namespace vellora {
 
@@ -64,8 +64,7 @@ bool ListMessages::column_dragged() {
 
 bool ListMessages::refuses_divider(WindowHandle header) const {
     const std::int32_t item = core_.user32.header_item_at(header, core_.user32.cursor());
-    const std::size_t slot = checked_slot(item + 1, maximum_columns);
-    return core_.state.mabColumnHidden[slot] || core_.state.mabColumnLocked[slot];
+    return is_column_held(core_.state, item + 1);
 }
 
 } // namespace vellora
