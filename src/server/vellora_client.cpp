@@ -30,6 +30,11 @@ bool moves_in_child(WPARAM key) {
     }
 }
 
+// What the open list has a use for, also with Shift and Ctrl.
+bool belongs_to_list(WPARAM key) {
+    return moves_in_child(key) || key == VK_RETURN || key == VK_ESCAPE || key == VK_F6 || key == VK_ADD;
+}
+
 bool modified() { return GetKeyState(VK_CONTROL) < 0 || GetKeyState(VK_MENU) < 0; }
 
 } // namespace
@@ -93,12 +98,9 @@ void VelloraClient::on_ui_activated() {}
 void VelloraClient::on_ui_deactivated() {}
 
 com::KeyRoute VelloraClient::translate_key(const MSG& message) {
-    if (message.message != WM_KEYDOWN || modified()) {
-        return com::KeyRoute::container;
-    }
-    const bool list_key = message.wParam == VK_RETURN || message.wParam == VK_ESCAPE;
-    return moves_in_child(message.wParam) || (list_open() && list_key) ? com::KeyRoute::child
-                                                                       : com::KeyRoute::container;
+    const WPARAM key = message.wParam;
+    const bool own = list_open() ? belongs_to_list(key) : moves_in_child(key) && !modified();
+    return own && message.message == WM_KEYDOWN ? com::KeyRoute::child : com::KeyRoute::container;
 }
 
 com::Mnemonics VelloraClient::mnemonics() {

@@ -2,6 +2,7 @@
 #include "com/support/open_list_test.h"
 #include "support/container/text.h"
 
+#include <algorithm>
 #include <commctrl.h>
 
 namespace vellora::test {
@@ -51,6 +52,7 @@ protected:
         press(VK_F6);
     }
     void press(WORD code) { key(list(), code); }
+    void press_in_field(WORD code) { key(text_field(control()), code); }
     void press_with(int modifier, WORD code) {
         const Held held(modifier);
         press(code);
@@ -77,6 +79,23 @@ TEST_F(ListKeysTest, AHeaderIsClicked) {
     EXPECT_TRUE(is_open());
     EXPECT_EQ(list(), GetFocus());
     EXPECT_EQ(-1, list_index());
+}
+
+TEST_F(ListKeysTest, TheFormIsNotAskedForThem) {
+    SetFocus(text_field(control()));
+    container_.pump();
+    const auto asked = [this] {
+        return std::ranges::count(site().log().take(), "IOleControlSite::TranslateAccelerator") != 0;
+    };
+    press_in_field(VK_F6);
+    ASSERT_TRUE(asked());
+    in_headers();
+    asked();
+    for (const WORD code : std::initializer_list<WORD>{VK_LEFT, VK_RIGHT, VK_UP, VK_ADD})
+        press_with(VK_CONTROL, code);
+    press(VK_F6);
+    press(VK_ESCAPE);
+    EXPECT_FALSE(asked());
 }
 
 TEST_F(ListKeysTest, AClickByTheMouseIsStillToldOnce) {
