@@ -22,7 +22,7 @@ bed_ready() {
     local arch
     for arch in "$@"; do
         [ -d "$(template_folder "$arch")" ] || return 1
-        [ "$arch" != x86 ] || [ -d "$(root_folder)" ] || return 1
+        ! in_root "$arch" || [ -d "$(root_folder "$arch")" ] || return 1
     done
 }
 

@@ -32,8 +32,8 @@ cmd_bench() {
 
 # prepare_x86 - the library built and registered, and a display to run on.
 prepare_x86() {
-    # shellcheck disable=SC2086
-    need_packages $PACKAGES_MINGW $PACKAGES_BED32 $PACKAGES_SCREEN $PACKAGES_DATA
+    # shellcheck disable=SC2046,SC2086
+    need_packages $PACKAGES_MINGW $(bed_packages x86) $PACKAGES_SCREEN $PACKAGES_DATA
     begin_run
     start_bed x86
     build x86 || exit 1

@@ -12,9 +12,13 @@ usage: ./vellora COMMAND
       --ring native|com|screen  only this ring (may be repeated)
       --arch x86|x64|all        only this kind of library
       --filter PATTERN          only tests whose name contains PATTERN
+      --generation next         on the Wine of the distribution's next release
+                                instead of this one's
       --keep                    leave display and Wine running for a look
-  wine [--64] PROGRAM [ARGS]    run a Windows program in the test bed; its exit
+  wine [OPTIONS] PROGRAM [ARGS] run a Windows program in the test bed; its exit
                                 code is handed back (the low eight bits)
+      --64                      a 64-bit one
+      --generation next         as above
   demo                          show the demonstration; without a display it
                                 plays itself and leaves pictures
   bench [ARGS]                  run the benchmark
@@ -25,6 +29,7 @@ of their own, so several may go on at the same time.
 
 Every command first sets up what it needs, once: packages of the distribution,
 and for 32-bit programs a private root with the 32-bit Wine in the cache folder.
+The next release's Wine, 32-bit and 64-bit, gets roots of its own there.
 
 variables:
   VELLORA_CACHE      where the test bed is kept (~/.cache/vellora)

@@ -4,8 +4,9 @@
 PACKAGES_MINGW='g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix mingw-w64-tools
     libwine-dev wine64 cmake ninja-build googletest g++ python3'
 PACKAGES_NATIVE='cmake ninja-build googletest g++ python3'
-PACKAGES_BED32='mmdebstrap arch-test bubblewrap ca-certificates'
+PACKAGES_ROOT='mmdebstrap arch-test bubblewrap ca-certificates'
 PACKAGES_BED64='wine64 fonts-wine fonts-liberation'
+PACKAGES_NEXT='distro-info-data'
 PACKAGES_SCREEN='xvfb xdotool openbox imagemagick fonts-liberation x11-utils xauth python3'
 PACKAGES_DATA='tzdata unicode-data'
 

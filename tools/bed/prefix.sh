@@ -7,14 +7,15 @@ PREFIX_MEGABYTES=1000
 
 # prefix_recipe ARCH - changes whenever the template has to be made anew.
 prefix_recipe() {
-    if [ "$1" = x86 ]; then
-        fingerprint "$PREFIX_REVISION" "$(root_folder)"
+    if in_root "$1"; then
+        fingerprint "$PREFIX_REVISION" "$(root_folder "$1")"
     else
         fingerprint "$PREFIX_REVISION" "$(stat -c %Y /usr/lib/wine/wine64 2>/dev/null || true)"
     fi
 }
 
-template_folder() { printf '%s/template-%s-%s' "$CACHE" "$1" "$(prefix_recipe "$1")"; }
+template_folder() { printf '%s/%s-%s' "$CACHE" "$(template_name "$1")" "$(prefix_recipe "$1")"; }
+template_name() { of_generation "template-$1"; }
 
 need_template() {
     local folder
@@ -23,20 +24,21 @@ need_template() {
 }
 
 make_template() {
-    local arch=$1 folder=$2 making
+    local arch=$1 folder=$2 making log
     [ ! -d "$folder" ] || return 0
     remove_unfinished
     need_room "$CACHE" "$PREFIX_MEGABYTES" 'a Wine prefix'
+    log=$CACHE/$(template_name "$arch").log
     making=$CACHE/making-template-$$
     # shellcheck disable=SC2064
     trap "stop_server '$arch' '$making'; remove_tree '$making'" EXIT
     trap 'exit 130' INT TERM HUP
     say "Making the Wine prefix for $arch (about 20 s, once) ..."
-    quietly "$CACHE/template-$arch.log" "Making the Wine prefix" fill_template "$arch" "$making" ||
-        die "the Wine prefix could not be made; the whole output is in $CACHE/template-$arch.log"
+    quietly "$log" "Making the Wine prefix" fill_template "$arch" "$making" ||
+        die "the Wine prefix could not be made; the whole output is in $log"
     stop_server "$arch" "$making"
     mv -T -- "$making" "$folder"
-    remove_others "template-$arch-*" "$folder"
+    remove_others "$(template_name "$arch")-*" "$folder"
 }
 
 # In a subshell: Wine's background processes must not hold the lock.
@@ -46,7 +48,7 @@ fill_template() (
     unset DISPLAY
     mkdir -- "$prefix" &&
         in_prefix "$arch" "$prefix" wineboot -i &&
-        cp -- "$(wine_fonts "$arch")"/* "$prefix/drive_c/windows/Fonts/" &&
+        cp -- "$(root_of "$arch")"/usr/share/wine/fonts/* "$prefix/drive_c/windows/Fonts/" &&
         printf 'detach\nquit\n' >"$prefix/drive_c/windows/crash.txt" &&
         template_settings >"$prefix/drive_c/settings.reg" &&
         in_prefix "$arch" "$prefix" regedit /S 'C:\settings.reg' &&
@@ -54,10 +56,6 @@ fill_template() (
         wait_server "$arch" "$prefix" &&
         grep -q '"LogPixels"=dword:00000060' "$prefix/user.reg"
 )
-
-wine_fonts() {
-    if [ "$1" = x86 ]; then printf '%s' "$(root_folder)/usr/share/wine/fonts"; else printf /usr/share/wine/fonts; fi
-}
 
 # A crash shows where it was and ends the program with the exception's code:
 # nothing is asked, and the debugger lets go (ending the program itself, as it
@@ -74,7 +72,7 @@ template_settings() {
 need_prefix() {
     local arch=$1 dpi=$2 prefix=$3
     [ "$(cat -- "$prefix/.recipe" 2>/dev/null)" = "$(prefix_recipe "$arch")" ] && return 0
-    [ "$arch" != x86 ] || need_root
+    need_root "$arch"
     need_template "$arch"
     with_bed_lock derive_prefix "$arch" "$dpi" "$prefix"
 }

@@ -1,16 +1,22 @@
-# The private 32-bit root: a minimal system with the 32-bit Wine, made once in
-# the cache folder. Nothing of the machine's own system is changed for it.
+# Private roots: each a minimal system with one Wine, made once in the cache
+# folder. Nothing of the machine's own system is changed for them.
 # shellcheck shell=bash
 
-ROOT_PACKAGES=wine32,fonts-wine,fonts-liberation
+ROOT_FONTS=fonts-wine,fonts-liberation
 ROOT_REVISION=1
 ROOT_MEGABYTES=3000
 
-# root_folder - where the root is (or will be).
+# root_folder ARCH - where its root is (or will be).
 root_folder() {
-    printf '%s/root-%s' "$CACHE" \
-        "$(fingerprint "$ROOT_REVISION" "$ROOT_PACKAGES" "$(os_release VERSION_CODENAME)")"
+    printf '%s/%s-%s' "$CACHE" "$(root_name "$1")" \
+        "$(fingerprint "$ROOT_REVISION" "$(root_packages "$1")" "$(bed_release)")"
 }
+
+# This generation has a root for 32-bit programs only.
+root_name() { if next_generation; then printf 'next-root-%s' "$1"; else printf root; fi; }
+root_packages() { if [ "$1" = x86 ]; then printf 'wine32,%s' $ROOT_FONTS; else printf 'wine64,%s' $ROOT_FONTS; fi; }
+root_architecture() { if [ "$1" = x86 ]; then echo i386; else echo amd64; fi; }
+root_bits() { if [ "$1" = x86 ]; then echo 32-bit; else echo 64-bit; fi; }
 
 # with_bed_lock COMMAND... - one maker at a time; the second one waits.
 with_bed_lock() {
@@ -41,47 +47,52 @@ remove_others() {
     done
 }
 
+# need_root ARCH - for programs that run in one.
 need_root() {
     local folder
-    folder=$(root_folder)
-    [ -d "$folder" ] || with_bed_lock make_root "$folder"
+    in_root "$1" || return 0
+    folder=$(root_folder "$1")
+    [ -d "$folder" ] || with_bed_lock make_root "$1" "$folder"
 }
 
 make_root() {
-    local folder=$1 making
+    local arch=$1 folder=$2 making log
     [ ! -d "$folder" ] || return 0
     remove_unfinished
-    need_room "$CACHE" "$ROOT_MEGABYTES" 'the 32-bit test bed'
-    check_can_run_32bit
+    need_room "$CACHE" "$ROOT_MEGABYTES" "the $(root_bits "$arch") test bed"
+    [ "$arch" != x86 ] || check_can_run_32bit
     check_namespaces
     making=$CACHE/making-root-$$
     # shellcheck disable=SC2064
     trap "remove_tree '$making' '$making.tar'" EXIT
     trap 'exit 130' INT TERM HUP
-    say 'Making the 32-bit test bed (about 40 s, once) ...'
-    bootstrap_root "$making" || root_failed "$CACHE/root.log"
+    say "Making the $(root_bits "$arch") test bed of $(bed_release) (about a minute, once) ..."
+    log=$CACHE/$(root_name "$arch").log
+    bootstrap_root "$arch" "$making" "$log" || root_failed "$arch" "$log"
     mv -T -- "$making" "$folder"
-    remove_others 'root-*' "$folder"
+    remove_others "$(root_name "$arch")-*" "$folder"
 }
 
+# bootstrap_root ARCH FOLDER LOG
 bootstrap_root() {
-    local making=$1 line setting options=()
-    line=$(source_line)
+    local arch=$1 making=$2 log=$3 release line setting options=()
+    release=$(bed_release)
+    line=$(source_line "$release")
     [ -n "$line" ] || die "no package source of this machine carries 'main' of $(os_release VERSION_CODENAME); look into /etc/apt/sources.list.d."
     while IFS= read -r setting; do
         [ -z "$setting" ] || options+=("--aptopt=$setting")
     done < <(apt_settings)
-    options+=(--architectures=i386 --variant=apt "--include=$ROOT_PACKAGES"
+    options+=("--architectures=$(root_architecture "$arch")" --variant=apt "--include=$(root_packages "$arch")"
         '--dpkgopt=path-exclude=/usr/share/doc/*' '--dpkgopt=path-exclude=/usr/share/locale/*'
         '--dpkgopt=path-exclude=/usr/share/man/*')
     if [ "$(id -u)" = 0 ]; then
         lower_priority mmdebstrap --mode=root "${options[@]}" \
-            "$(os_release VERSION_CODENAME)" "$making" "$line" >"$CACHE/root.log" 2>&1 </dev/null 9>&-
+            "$release" "$making" "$line" >"$log" 2>&1 </dev/null 9>&-
     else
         lower_priority mmdebstrap --mode=unshare "${options[@]}" \
-            "$(os_release VERSION_CODENAME)" "$making.tar" "$line" >"$CACHE/root.log" 2>&1 </dev/null 9>&- &&
+            "$release" "$making.tar" "$line" >"$log" 2>&1 </dev/null 9>&- &&
             mkdir -- "$making" &&
-            tar -C "$making" --exclude='./dev/*' -xf "$making.tar" >>"$CACHE/root.log" 2>&1 &&
+            tar -C "$making" --exclude='./dev/*' -xf "$making.tar" >>"$log" 2>&1 &&
             rm -f -- "$making.tar"
     fi
 }
@@ -95,18 +106,20 @@ check_namespaces() {
     local hint='sudo sysctl -w kernel.unprivileged_userns_clone=1 user.max_user_namespaces=15000'
     [ -e /.dockerenv ] && hint='docker run --privileged ... (or --security-opt seccomp=unconfined --cap-add SYS_ADMIN)'
     bwrap --ro-bind / / --dev-bind /dev /dev true >/dev/null 2>&1 || die \
-        "bubblewrap may not make a namespace here, and the 32-bit test bed needs one; allow it: $hint"
+        "bubblewrap may not make a namespace here, and the test bed needs one; allow it: $hint"
     [ "$(id -u)" = 0 ] || grep -q "^\($(id -un)\|$(id -u)\):" /etc/subuid 2>/dev/null || die \
-        "this user has no range in /etc/subuid, which making the 32-bit root needs; add one: sudo usermod --add-subuids 100000-165535 --add-subgids 100000-165535 $(id -un)"
+        "this user has no range in /etc/subuid, which making the test bed needs; add one: sudo usermod --add-subuids 100000-165535 --add-subgids 100000-165535 $(id -un)"
 }
 
 root_failed() {
-    if network_failed "$1"; then
-        die "the packages of the 32-bit root could not be fetched; check the network and the proxy with: apt-get update (whole output: $1)"
+    local bits log=$2
+    bits=$(root_bits "$1")
+    if network_failed "$log"; then
+        die "the packages of the $bits root could not be fetched; check the network and the proxy with: apt-get update (whole output: $log)"
     fi
-    if grep -qi 'no space left' "$1"; then
-        die "the disk became full while making the 32-bit root in $CACHE; make room and start again."
+    if grep -qi 'no space left' "$log"; then
+        die "the disk became full while making the $bits root in $CACHE; make room and start again."
     fi
-    grep -E '^(E|W):' "$1" | tail -n 6 >&2 || true
-    die "the 32-bit root could not be made; the whole output is in $1"
+    grep -E '^(E|W):' "$log" | tail -n 6 >&2 || true
+    die "the $bits root could not be made; the whole output is in $log"
 }

@@ -44,10 +44,12 @@ keep_results() {
 }
 
 release_seat() {
-    local prefix arch
+    local prefix arch GENERATION
     for prefix in "$1"/x*-*; do
         [ -d "$prefix" ] || continue
         arch=${prefix##*/}
+        # shellcheck disable=SC2034
+        GENERATION=$(generation_of "$prefix")
         stop_server "${arch%%-*}" "$prefix"
     done
     remove_tree "$1"

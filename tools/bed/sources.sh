@@ -1,17 +1,14 @@
-# Where this machine gets its packages from: the 32-bit root uses the same.
+# Where this machine gets its packages from: the private roots use the same.
 # shellcheck shell=bash
 
-# source_line - prints "deb [options] MIRROR SUITE main" for this release,
-# taken from the first enabled source of the machine that carries it.
+# source_line SUITE - prints "deb [options] MIRROR SUITE main", taken from the
+# first enabled source of the machine that carries its own release.
 source_line() {
-    local suite
-    suite=$(os_release VERSION_CODENAME)
-    [ -n "$suite" ] || die "/etc/os-release names no release (VERSION_CODENAME)."
-    { sources_deb822; sources_classic; } | awk -F '\t' -v suite="$suite" '
+    { sources_deb822; sources_classic; } | awk -F '\t' -v own="$(os_release VERSION_CODENAME)" -v suite="$1" '
         {
             split($3, suites, " "); split($4, parts, " "); split($2, mirrors, " ")
             found = 0; carried = 0
-            for (i in suites) if (suites[i] == suite) found = 1
+            for (i in suites) if (suites[i] == own) found = 1
             for (i in parts) if (parts[i] == "main") carried = 1
             if (!found || !carried || mirrors[1] ~ /^cdrom:/) next
             options = $5 == "" ? "" : "[signed-by=" $5 "] "

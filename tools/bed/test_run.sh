@@ -28,7 +28,7 @@ cmd_test() {
 read_test_options() {
     while [ $# -gt 0 ]; do
         case $1 in
-            --ring|--arch|--filter) [ $# -gt 1 ] || die "$1 needs a value." ;;
+            --ring|--arch|--filter|--generation) [ $# -gt 1 ] || die "$1 needs a value." ;;
         esac
         case $1 in
             --ring)
@@ -39,6 +39,7 @@ read_test_options() {
                     *) die "--arch is x86, x64 or all, not '$2'." ;; esac
                 shift ;;
             --filter) TEST_FILTER=$2; shift ;;
+            --generation) choose_generation "$2"; shift ;;
             --keep) RUN_KEPT=yes ;;
             *) die "test does not know '$1'; see ./vellora help" ;;
         esac
@@ -60,8 +61,7 @@ test_packages() {
     if needs_libraries; then echo "$PACKAGES_MINGW"; fi
     if ring_needs_bed; then
         echo "$PACKAGES_SCREEN" "$PACKAGES_DATA"
-        if with_arch x86; then echo "$PACKAGES_BED32"; fi
-        if with_arch x64; then echo "$PACKAGES_BED64"; fi
+        bed_packages "${TEST_ARCHES[@]}"
     fi
 }
 
@@ -181,7 +181,7 @@ renew_server() {
 }
 
 tell_kept() {
-    say "Kept for a look: VELLORA_SEAT=$SEAT DISPLAY=${DISPLAY:-} ./vellora wine PROGRAM"
+    say "Kept for a look: VELLORA_SEAT=$SEAT DISPLAY=${DISPLAY:-} ./vellora wine --generation $GENERATION PROGRAM"
     say 'It goes when that display has ended and another run starts.'
 }
 

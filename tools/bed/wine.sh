@@ -1,5 +1,4 @@
-# Running a Windows program: 32-bit ones in the private root, 64-bit ones with
-# the system's own Wine.
+# Running a Windows program: in a private root, or with the machine's own Wine.
 # shellcheck shell=bash
 
 # What a program started by hand runs in; a test run has a seat of its own. A
@@ -9,8 +8,14 @@ SEAT=${VELLORA_SEAT:-$CACHE/seat/own-$(fingerprint "$VELLORA_ROOT" "$USER_TMPDIR
 
 cmd_wine() {
     local arch=x86
-    if [ "${1:-}" = --64 ]; then arch=x64; shift; fi
-    [ $# -gt 0 ] || die 'wine needs a program: ./vellora wine [--64] PROGRAM [ARGUMENTS]'
+    while [ $# -gt 1 ]; do
+        case $1 in
+            --64) arch=x64; shift ;;
+            --generation) choose_generation "$2"; shift 2 ;;
+            *) break ;;
+        esac
+    done
+    case ${1:---} in --*) die 'wine needs a program: ./vellora wine [--64] [--generation next] PROGRAM [ARGUMENTS]' ;; esac
     # A seat that is in use is complete: nothing to look after.
     if [ -z "${VELLORA_SEAT:-}" ]; then
         need_bed "$arch"
@@ -32,12 +37,19 @@ mark_own_seat() {
 # need_bed ARCH... - everything that running programs takes.
 need_bed() {
     local arch
-    # shellcheck disable=SC2046,SC2086
-    need_packages $(for arch in "$@"; do
-        if [ "$arch" = x86 ]; then echo $PACKAGES_BED32; else echo $PACKAGES_BED64; fi; done)
+    # shellcheck disable=SC2046
+    need_packages $(bed_packages "$@")
     for arch in "$@"; do
-        [ "$arch" != x86 ] || need_root
+        need_root "$arch"
         need_template "$arch"
+    done
+}
+
+bed_packages() {
+    local arch
+    ! next_generation || echo "$PACKAGES_NEXT"
+    for arch in "$@"; do
+        if in_root "$arch"; then echo "$PACKAGES_ROOT"; else echo "$PACKAGES_BED64"; fi
     done
 }
 
@@ -49,7 +61,12 @@ check_resolution() {
     export VELLORA_DPI
 }
 
-prefix_of() { printf '%s/%s-%s' "$SEAT" "$1" "$VELLORA_DPI"; }
+# prefix_of ARCH - in the current seat; generation_of PREFIX reads it back.
+prefix_of() {
+    printf '%s/%s-%s' "$SEAT" "$1" "$VELLORA_DPI"
+    ! next_generation || printf -- -next
+}
+generation_of() { case $1 in *-next) echo next ;; *) echo this ;; esac; }
 
 # bed_run ARCH PROGRAM [ARGUMENTS] - runs it in the current seat.
 bed_run() { (bed_exec "$@"); }
@@ -68,11 +85,11 @@ prefix_exec() {
     local arch=$1
     wine_environment "$arch" "$2"
     shift 2
-    if [ "$arch" = x86 ]; then
-        root_arguments
-        exec bwrap "${ROOT_ARGUMENTS[@]}" /usr/lib/wine/wine "$@"
+    if in_root "$arch"; then
+        root_arguments "$arch"
+        exec bwrap "${ROOT_ARGUMENTS[@]}" "$(wine_loader "$arch")" "$@"
     fi
-    exec /usr/lib/wine/wine64 "$@"
+    exec "$(wine_loader "$arch")" "$@"
 }
 
 wine_environment() {
@@ -87,9 +104,10 @@ wine_environment() {
     if [ "$1" = x86 ]; then
         export WINEARCH=win32
     else
-        # The same fonts as in the 32-bit root, whatever else is installed.
-        export WINEARCH=win64 FONTCONFIG_FILE=$VELLORA_ROOT/tools/bed/fonts.conf
+        export WINEARCH=win64
     fi
+    # The same fonts as in the roots, whatever else is installed.
+    in_root "$1" || export FONTCONFIG_FILE=$VELLORA_ROOT/tools/bed/fonts.conf
 }
 
 # server_run ARCH PREFIX [OPTIONS] - talks to the prefix's wineserver.
@@ -97,19 +115,24 @@ server_run() (
     local arch=$1
     wine_environment "$arch" "$2"
     shift 2
-    if [ "$arch" = x86 ]; then
-        root_arguments
-        exec bwrap "${ROOT_ARGUMENTS[@]}" "$(wine_server "$(root_folder)" 32)" "$@"
+    if in_root "$arch"; then
+        root_arguments "$arch"
+        exec bwrap "${ROOT_ARGUMENTS[@]}" "$(wine_server "$arch")" "$@"
     fi
-    exec "$(wine_server '' 64)" "$@"
+    exec "$(wine_server "$arch")" "$@"
 )
 
-# wine_server ROOT BITS - later Wines have a single one for both.
-wine_server() {
-    if [ -x "$1/usr/lib/wine/wineserver$2" ]; then
-        printf '/usr/lib/wine/wineserver%s' "$2"
+wine_loader() { wine_file "$1" wine wine64; }
+wine_server() { wine_file "$1" wineserver32 wineserver64; }
+
+# wine_file ARCH NAME32 NAME64 - later Wines have a single one for both.
+wine_file() {
+    local name=$2
+    [ "$1" = x86 ] || name=$3
+    if [ -x "$(root_of "$1")/usr/lib/wine/$name" ]; then
+        printf '/usr/lib/wine/%s' "$name"
     else
-        printf /usr/lib/wine/wineserver
+        printf '/usr/lib/wine/%s' "${name%%[0-9]*}"
     fi
 }
 
@@ -139,10 +162,10 @@ start_server() {
     exec 6>&-
 }
 
-# root_arguments - sets ROOT_ARGUMENTS: how bubblewrap shows the machine.
+# root_arguments ARCH - sets ROOT_ARGUMENTS: how bubblewrap shows the machine.
 root_arguments() {
     local root folder seen=() sorted
-    root=$(root_folder)
+    root=$(root_folder "$1")
     ROOT_ARGUMENTS=(--die-with-parent --bind "$root" / --dev-bind /dev /dev --proc /proc)
     seen=(/tmp "$VELLORA_ROOT" "$CACHE" "$USER_TMPDIR" "${HOME:-/tmp}")
     ! may_be_shown "$PWD" || seen+=("$PWD")
