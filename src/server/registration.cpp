@@ -3,6 +3,7 @@
 #include "com/guard.h"
 #include "com/ole.h"
 #include "com/type_library.h"
+#include "server/file_identity.h"
 #include "server/module.h"
 #include "server/registry_entries.h"
 
@@ -17,6 +18,8 @@ namespace {
 
 constexpr wchar_t classes_root[] = L"Software\\Classes\\";
 constexpr SYSKIND own_kind = sizeof(void*) == 8 ? SYS_WIN64 : SYS_WIN32;
+constexpr const wchar_t* own_file = sizeof(void*) == 8 ? L"\\0\\win64" : L"\\0\\win32";
+constexpr const wchar_t* other_bitness_file = sizeof(void*) == 8 ? L"\\0\\win32" : L"\\0\\win64";
 constexpr DWORD other_bitness_view = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
 
 HKEY root_of(Scope scope) {
@@ -62,27 +65,48 @@ void register_type_library(Scope scope) {
                                     : RegisterTypeLib(library.Get(), path.data(), nullptr));
 }
 
-void unregister_type_library(Scope scope) {
-    const Module& own = module();
-    // What is not registered cannot be unregistered, and need not be.
-    if (scope == Scope::user)
-        UnRegisterTypeLibForUser(own.type_library, own.major, own.minor, LOCALE_NEUTRAL, own_kind);
-    else
-        UnRegisterTypeLib(own.type_library, own.major, own.minor, LOCALE_NEUTRAL, own_kind);
+/// Another copy of the library that is there has taken the place over.
+bool belongs_to_another(const std::wstring& path) {
+    const auto there = identity_of(path);
+    return there && there != identity_of(com::module_path());
 }
 
-/// Another copy of the library that is there has taken the class over.
-bool taken_over(Scope scope) {
-    const std::wstring registered = read(scope, class_key() + L"\\InprocServer32");
-    return !registered.empty() && lstrcmpiW(registered.c_str(), com::module_path().c_str()) != 0 &&
-           GetFileAttributesW(registered.c_str()) != INVALID_FILE_ATTRIBUTES;
+bool class_belongs_to_another(Scope scope) {
+    return belongs_to_another(read(scope, server_key()));
+}
+
+void forget_type_library(Scope scope) {
+    // The platform learns from the registered file which interfaces to forget, and that file may be gone.
+    register_type_library(scope);
+    const Module& own = module();
+    com::check(scope == Scope::user
+                   ? UnRegisterTypeLibForUser(own.type_library, own.major, own.minor, LOCALE_NEUTRAL, own_kind)
+                   : UnRegisterTypeLib(own.type_library, own.major, own.minor, LOCALE_NEUTRAL, own_kind));
+}
+
+/// Forgetting the type library takes the interfaces with it, for both bitnesses: whoever else needs them
+/// keeps them.
+void unregister_type_library(Scope scope) {
+    const std::wstring key = type_library_key();
+    // There are platforms that keep one registration of a type library for all users.
+    const Scope place = read(scope, key + own_file).empty() ? Scope::machine : scope;
+    const std::wstring path = read(place, key + own_file);
+    if (path.empty() || belongs_to_another(path))
+        return;
+    if (place != scope && !read(place, server_key()).empty())
+        return;
+    if (!read(place, key + other_bitness_file).empty())
+        remove(place, key + own_file);
+    else if (class_belongs_to_another(scope))
+        remove(place, key);
+    else
+        forget_type_library(scope);
 }
 
 /// Program identifiers are common to both bitnesses, classes are not.
 bool other_bitness_registered(Scope scope) {
     HKEY key = nullptr;
-    const std::wstring server = classes(class_key() + L"\\InprocServer32");
-    if (RegOpenKeyExW(root_of(scope), server.c_str(), 0, KEY_READ | other_bitness_view, &key) !=
+    if (RegOpenKeyExW(root_of(scope), classes(server_key()).c_str(), 0, KEY_READ | other_bitness_view, &key) !=
         ERROR_SUCCESS)
         return false;
     RegCloseKey(key);
@@ -109,6 +133,8 @@ void write_everything(Scope scope) {
 } // namespace
 
 void register_server(Scope scope) {
+    // Who has no rights fails here, and has changed nothing.
+    write(scope, class_entries().front());
     try {
         write_everything(scope);
     } catch (...) {
@@ -118,9 +144,9 @@ void register_server(Scope scope) {
 }
 
 void unregister_server(Scope scope) {
-    if (taken_over(scope))
-        return;
     unregister_type_library(scope);
+    if (class_belongs_to_another(scope))
+        return;
     remove(scope, class_key());
     for (const std::wstring& key : page_keys())
         remove(scope, key);

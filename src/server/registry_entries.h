@@ -16,6 +16,10 @@ struct RegistryEntry {
 
 /// "CLSID\{...}": everything about this bitness of the control lies below it.
 std::wstring class_key();
+/// Where the class names the file of the library.
+std::wstring server_key();
+/// "TypeLib\{...}\1.0": both bitnesses share it, each with a file of its own below.
+std::wstring type_library_key();
 
 std::vector<RegistryEntry> class_entries();
 /// The same for its property pages.

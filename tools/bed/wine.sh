@@ -94,10 +94,7 @@ prefix_exec() {
 
 wine_environment() {
     export WINEPREFIX=$2 WINEDEBUG=${WINEDEBUG:--all} LC_ALL=C.UTF-8
-    # Here Wine puts the socket of its server: with the prefix, wherever the
-    # user's temporary folder is at the moment.
-    export TMPDIR=$2/servers
-    [ -d "$TMPDIR" ] || mkdir -p -- "$TMPDIR"
+    server_folder "$2"
     # No questions about Mono and Gecko.
     export WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-mscoree,mshtml=}
     unset LD_PRELOAD LD_LIBRARY_PATH WINELOADER WINESERVER WINEDLLPATH LANG LANGUAGE
@@ -108,6 +105,26 @@ wine_environment() {
     fi
     # The same fonts as in the roots, whatever else is installed.
     in_root "$1" || export FONTCONFIG_FILE=$VELLORA_ROOT/tools/bed/fonts.conf
+}
+
+# server_folder PREFIX - where Wine puts the socket of its server: with the
+# prefix, wherever the user's temporary folder is at the moment. The next
+# release's Wine ends in "free(): invalid pointer" as soon as TMPDIR is set; it
+# gets a folder of its own choice below /tmp, and writes its name down.
+server_folder() {
+    if next_generation; then
+        unset TMPDIR
+    else
+        export TMPDIR=$1/servers
+        [ -d "$TMPDIR" ] || mkdir -p -- "$TMPDIR"
+    fi
+}
+
+remove_server_folder() {
+    local name
+    [ -f "$1/wineserver" ] || return 0
+    name=$(<"$1/wineserver")
+    case $name in wine-??????) remove_tree "/tmp/$name" ;; esac
 }
 
 # server_run ARCH PREFIX [OPTIONS] - talks to the prefix's wineserver.
@@ -136,7 +153,11 @@ wine_file() {
     fi
 }
 
-stop_server() { [ ! -d "$2" ] || server_run "$1" "$2" -k >/dev/null 2>&1 || true; }
+stop_server() {
+    [ -d "$2" ] || return 0
+    server_run "$1" "$2" -k >/dev/null 2>&1 || true
+    ! next_generation || remove_server_folder "$2"
+}
 wait_server() { server_run "$1" "$2" -w; }
 
 # need_server ARCH - Wine's background processes keep the output of whoever
