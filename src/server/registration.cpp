@@ -9,8 +9,7 @@
 
 // In the platform's import library, but not in its headers.
 extern "C" HRESULT WINAPI RegisterTypeLibForUser(ITypeLib* library, OLECHAR* path, OLECHAR* help_folder);
-extern "C" HRESULT WINAPI UnRegisterTypeLibForUser(REFGUID library, WORD major, WORD minor, LCID locale,
-                                                   SYSKIND kind);
+extern "C" HRESULT WINAPI UnRegisterTypeLibForUser(REFGUID library, WORD major, WORD minor, LCID locale, SYSKIND kind);
 
 namespace vellora::server {
 
@@ -37,8 +36,8 @@ void check_registry(LSTATUS status) {
 void write(Scope scope, const RegistryEntry& entry) {
     const auto bytes = static_cast<DWORD>((entry.value.size() + 1) * sizeof(wchar_t));
     check_registry(RegSetKeyValueW(root_of(scope), classes(entry.key).c_str(),
-                                   entry.name.empty() ? nullptr : entry.name.c_str(), REG_SZ,
-                                   entry.value.c_str(), bytes));
+                                   entry.name.empty() ? nullptr : entry.name.c_str(), REG_SZ, entry.value.c_str(),
+                                   bytes));
 }
 
 /// Empty when there is no such value.
@@ -79,9 +78,11 @@ void forget_type_library(Scope scope) {
     // The platform learns from the registered file which interfaces to forget, and that file may be gone.
     register_type_library(scope);
     const Module& own = module();
-    com::check(scope == Scope::user
-                   ? UnRegisterTypeLibForUser(own.type_library, own.major, own.minor, LOCALE_NEUTRAL, own_kind)
-                   : UnRegisterTypeLib(own.type_library, own.major, own.minor, LOCALE_NEUTRAL, own_kind));
+    // Who may register may unregister; the class goes in any case.
+    if (scope == Scope::user)
+        UnRegisterTypeLibForUser(own.type_library, own.major, own.minor, LOCALE_NEUTRAL, own_kind);
+    else
+        UnRegisterTypeLib(own.type_library, own.major, own.minor, LOCALE_NEUTRAL, own_kind);
 }
 
 /// Forgetting the type library takes the interfaces with it, for both bitnesses: whoever else needs them
@@ -150,6 +151,8 @@ void unregister_server(Scope scope) {
     remove(scope, class_key());
     for (const std::wstring& key : page_keys())
         remove(scope, key);
+    // For a user it may have been the only class; a key with others in it stays.
+    RegDeleteKeyW(root_of(scope), classes(L"CLSID").c_str());
     if (!other_bitness_registered(scope))
         remove_program_ids(scope);
 }
