@@ -66,8 +66,25 @@ add_custom_command(
   DEPENDS ${PROJECT_SOURCE_DIR}/tools/draw_toolbox_bitmap.py
   VERBATIM)
 
+# For programs that use the library without registration.
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+  set(manifest_architecture x86)
+else()
+  set(manifest_architecture amd64)
+endif()
+set(manifest ${CMAKE_BINARY_DIR}/VelloraCTL.manifest)
+set(manifest_sources ${vellora_idl_file} ${CMAKE_CURRENT_LIST_DIR}/com/control_class.h)
+add_custom_command(
+  OUTPUT ${manifest}
+  COMMAND Python3::Interpreter ${PROJECT_SOURCE_DIR}/tools/make_manifest.py
+    ${manifest_sources} ${PROJECT_VERSION} ${manifest_architecture} ${manifest}
+  DEPENDS ${manifest_sources} ${PROJECT_SOURCE_DIR}/tools/make_manifest.py ${PROJECT_SOURCE_DIR}/tools/idl_model.py
+  VERBATIM)
+add_custom_target(vellora_manifest DEPENDS ${manifest})
+
 file(GLOB server_sources CONFIGURE_DEPENDS server/*.cpp)
 add_library(VelloraCTL SHARED ${server_sources} server/VelloraCTL.rc server/exports.def)
+add_dependencies(VelloraCTL vellora_manifest)
 set_source_files_properties(server/VelloraCTL.rc PROPERTIES
   INCLUDE_DIRECTORIES ${vellora_idl_dir}
   OBJECT_DEPENDS "${vellora_idl_dir}/VelloraCTL.tlb;${toolbox_bitmap}"

@@ -14,7 +14,8 @@ file(GLOB com_test_sources CONFIGURE_DEPENDS
 add_executable(com_tests ${com_test_sources})
 # They run for seconds and are built often.
 target_compile_options(com_tests PRIVATE -O0 -g1)
-target_compile_definitions(com_tests PRIVATE VELLORA_TESTS_DIR="${tests_dir}")
+target_compile_definitions(com_tests PRIVATE
+  VELLORA_TESTS_DIR="${tests_dir}" VELLORA_VERSION="${PROJECT_VERSION}")
 target_link_libraries(com_tests PRIVATE
   test_container vellora_win32 vellora_com vellora_behaviour vellora_idl gtest gtest_main
   ${host_libraries} uxtheme imm32 oleacc version)

@@ -102,6 +102,15 @@ def parse_enumerations(text: str) -> dict[str, dict[str, int]]:
     }
 
 
+def attributes_of(text: str, heading: str) -> dict[str, str]:
+    """What stands in brackets before the heading: "uuid" to its number, a word without argument to nothing."""
+    match = re.search(r"\[([^\[\]]*)\]\s*" + heading + r"\b", text)
+    if not match:
+        raise SystemExit(f"idl_model: no attributes before {heading!r}")
+    parts = (part.partition("(") for part in split_outside(match[1], ","))
+    return {name.strip(): argument.rstrip(")").strip('"') for name, _, argument in parts}
+
+
 def read(path: Path) -> Interface:
     text = without_comments(path.read_text(encoding="utf-8"))
     members = block_after(text, r"interface\s+_Vellora\s*:\s*IDispatch")

@@ -1,7 +1,9 @@
-# What is given away: the stripped library in dist/ARCH, its symbols beside it.
+# What is given away: the stripped library in dist/ARCH, beside it its symbols and
+# the manifest for using it without registration.
 # shellcheck shell=bash
 
 LIBRARY=VelloraCTL.ocx
+MANIFEST=VelloraCTL.manifest
 LIBRARY_BYTES=$((600 * 1024))
 
 # What every Windows has; anything else would have to be delivered with it.
@@ -11,6 +13,8 @@ SYSTEM_LIBRARIES='kernel32 user32 gdi32 ole32 oleaut32 advapi32 comctl32 msvcrt 
 fill_dist() {
     local arch=$1 built=$VELLORA_ROOT/build/$1/$LIBRARY folder=$VELLORA_ROOT/dist/$1
     [ -f "$built" ] || { say "build/$arch/$LIBRARY was not made."; return 1; }
+    mkdir -p -- "$folder"
+    fill_manifest "${built%/*}/$MANIFEST" "$folder/$MANIFEST"
     if [ "$folder/$LIBRARY" -nt "$built" ] && [ -f "$folder/$LIBRARY.debug" ]; then return 0; fi
     local making=$folder/.making
     remove_tree "$making"
@@ -23,6 +27,10 @@ fill_dist() {
     fi
     mv -f -- "$making/$LIBRARY.debug" "$making/$LIBRARY" "$folder/"
     remove_tree "$making"
+}
+
+fill_manifest() {
+    cmp -s -- "$1" "$2" || { cp -- "$1" "$2.making" && mv -f -- "$2.making" "$2"; }
 }
 
 triplet() { if [ "$1" = x86 ]; then echo i686-w64-mingw32; else echo x86_64-w64-mingw32; fi; }
