@@ -1,5 +1,6 @@
 // Thousands of members, clicks and keys in no order at all, the same ones in every run. Whatever they do,
 // some things always hold.
+#include "control/keys.h"
 #include "dropdown/open_list.h"
 #include "support/headless/failure.h"
 #include "support/headless/headless_control.h"
@@ -7,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <functional>
 #include <random>
 #include <vector>
@@ -26,6 +28,7 @@ public:
         combo_.events.on_change = [this] { meddle(); };
         combo_.events.on_drop_down = [this](DropDownState) { meddle(); };
         combo_.events.on_column_reorder = [this] { meddle(); };
+        combo_.events.on_column_click = [this](std::int16_t) { meddle(); };
         combo_.events.on_item_check = [this](std::int16_t, bool, bool& cancel) {
             cancel = number(0, 1) == 1;
             meddle();
@@ -61,6 +64,7 @@ public:
                   open ? procedure::replaced : procedure::own);
         EXPECT_EQ(combo_.list_view.visible(), open);
         EXPECT_EQ(gbListOpen, open);
+        EXPECT_TRUE(open || combo_.list_view.marked_header() == 0);
         EXPECT_EQ(combo_.frame.tag().empty(), !open || !state.mbAllowResize);
         expect_button(open);
         EXPECT_EQ(opened_, closed_ + (open ? 1 : 0));
@@ -139,7 +143,10 @@ private:
         [this] { combo_.columns().put_Columns(small()); },
         [this] { combo_.columns().put_ColumnWidth(small(), static_cast<float>(number(-1, 3000))); },
         [this] { combo_.columns().put_ColumnHidden(small(), number(0, 1) == 1); },
+        [this] { combo_.columns().put_ColumnLocked(small(), number(0, 1) == 1); },
         [this] { combo_.columns().put_HideColumnHeaders(number(0, 1) == 1); },
+        [this] { combo_.column_order().put_AllowColumnReorder(number(0, 1) == 1); },
+        [this] { combo_.resize_grip().put_AllowResize(number(0, 1) == 1); },
         [this] { combo_.selection().put_ListIndex(small()); },
         [this] { combo_.selection().put_TextColumn(small()); },
         [this] { combo_.placement().put_DropDownHeight(static_cast<float>(number(0, 10))); },
@@ -169,6 +176,9 @@ private:
         [this] { click_some_row(); },
         [this] { check_some_row(); },
         [this] { user_.press_key_in_list(13); },
+        [this] { user_.press_key_in_list(key::f6); },
+        [this] { press_header_key(); },
+        [this] { press_header_key(); },
         [this] { user_.press_key_in_list(115); },
         [this] { user_.drag_divider(number(0, 4)); },
         [this] { user_.drop_header(); },
@@ -177,6 +187,12 @@ private:
     void click_some_row() {
         const std::int32_t count = combo_.items().ListCount();
         user_.click_row(number(-1, count - 1));
+    }
+    void press_header_key() {
+        constexpr std::array keys{key::left, key::right, key::up,     key::down, key::space,
+                                  key::enter, key::add,  key::escape, key::f6};
+        const auto held = static_cast<std::int16_t>(number(0, 3));
+        user_.press_key_in_list(keys[static_cast<std::size_t>(number(0, static_cast<int>(keys.size()) - 1))], held);
     }
     void check_some_row() {
         const std::int32_t count = combo_.items().ListCount();
