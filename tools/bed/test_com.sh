@@ -14,12 +14,18 @@ ring_com() {
         # shellcheck disable=SC2046
         gtest_suite "$arch" "$program" "$VELLORA_ROOT/vellora" wine $(wide "$arch") "$program"
     done
-    for script in "$VELLORA_ROOT"/tests/com/*.vbs; do
+    scripts_of_documents
+    for script in "$VELLORA_ROOT"/tests/com/*.vbs "$VELLORA_ROOT"/build/documents/*.vbs; do
         if [ -f "$script" ] && [[ ${script##*/} == *${TEST_FILTER//\*/}* ]]; then
             script_suite "$arch" "$script"
         fi
     done
     manage_windows "$arch" Y
+}
+
+# scripts_of_documents - what docs/ says, as scripts that try it.
+scripts_of_documents() {
+    python3 "$VELLORA_ROOT/tools/reference.py" --scripts "$VELLORA_ROOT/build/documents"
 }
 
 # manage_windows ARCH Y|N - whether the window manager gets to see windows.
