@@ -59,7 +59,7 @@ class CodeChecker:
             yield f"the handler of {head[1]} takes ({', '.join(expected)})"
 
     def pascal(self, line: str) -> Iterator[str]:
-        head = re.match(r"procedure \w+\.Vellora1(\w+)\(ASender: TObject(?:; (.*))?\);", line)
+        head = re.match(r"procedure \w+\.Vellora1(\w+)\(A?Sender: TObject(?:; (.*))?\);", line)
         if head:
             yield from self.named_parameters(head[1], re.findall(r"(\w+)(?=[,:])", head[2] or ""))
         for use in USE.finditer(line):

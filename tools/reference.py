@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Keeps the reference in docs/reference in step with the public interface.
+"""Keeps the documents in step with the public interface and with the sources they show.
 
-A person writes the pages: one section per member, event or enumeration, named as in the interface. Between the lines
+A person writes the pages. In docs/reference there is one section per member, event or enumeration, named as in the interface. Between the lines
 `<!-- interface -->` and `<!-- end -->` this program writes what the interface says of it. What a section must have is in
-reference_rules.py.
+reference_rules.py, how code comes from a source file in doc_snippets.py.
 
-Usage: reference.py                    writes those blocks, and the index
+Usage: reference.py                    writes those blocks, the index and the code from sources
        reference.py --check            fails when a page differs from the interface or lacks something
        reference.py --scripts FOLDER   makes scripts that try what the pages say
 """
@@ -17,6 +17,7 @@ from pathlib import Path
 import basic_names
 import doc_pages
 import doc_script
+import doc_snippets
 import idl_model
 import reference_rules
 from basic_names import Member
@@ -116,16 +117,18 @@ def wanted_page(page: Path, interface: Interface, places: dict[str, str]) -> str
 def wanted_pages(interface: Interface) -> dict[Path, str]:
     sections = all_sections()
     places = {section_key(s): place_of(s) for s in sections}
-    pages = {page: wanted_page(page, interface, places) for page in doc_pages.reference_pages()}
-    index = INDEX.read_text(encoding="utf-8")
-    return pages | {INDEX: BLOCK.sub(lambda _: index_block(sections, interface), index, count=1)}
+    pages = {page: doc_snippets.with_snippets(page.read_text(encoding="utf-8")) for page in doc_pages.all_pages()}
+    for page in doc_pages.reference_pages():
+        pages[page] = wanted_page(page, interface, places)
+    pages[INDEX] = BLOCK.sub(lambda _: index_block(sections, interface), pages[INDEX], count=1)
+    return pages
 
 
 def check(interface: Interface) -> list[str]:
     faults = reference_rules.faults(interface, all_sections(), section_key)
     for page, text in wanted_pages(interface).items():
         if page.read_text(encoding="utf-8") != text:
-            faults.append(f"{page.relative_to(ROOT)}: differs from the interface; tools/reference.py renews it")
+            faults.append(f"{page.relative_to(ROOT)}: differs from the interface or from a source; tools/reference.py renews it")
     return faults
 
 
@@ -133,7 +136,7 @@ def main(arguments: list[str]) -> int:
     interface = idl_model.read(ROOT / "idl/VelloraCTL.idl")
     if arguments == ["--check"]:
         faults = check(interface)
-        print("\n".join(faults) or f"{len(all_sections())} entries of the reference agree with idl/VelloraCTL.idl")
+        print("\n".join(faults) or f"{len(doc_pages.all_pages())} documents agree with idl/VelloraCTL.idl")
         return 1 if faults else 0
     if len(arguments) == 2 and arguments[0] == "--scripts":
         members = {m.name: m for m in basic_names.members_of(interface) if not m.is_event}
