@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 """Keeps the documents in step with the public interface and with the sources they show.
 
-A person writes the pages. In docs/reference there is one section per member, event or enumeration, named as in the interface. Between the lines
-`<!-- interface -->` and `<!-- end -->` this program writes what the interface says of it. What a section must have is in
-reference_rules.py, how code comes from a source file in doc_snippets.py.
+A person writes the pages. In docs/reference there is one section per member, event or enumeration, named as in the
+interface. Between the lines `<!-- interface -->` and `<!-- end -->` this program writes what the interface says of it.
+What a section must have is in reference_rules.py, how code comes from a source file in doc_snippets.py.
 
 Usage: reference.py                    writes those blocks, the index and the code from sources
        reference.py --check            fails when a page differs from the interface or lacks something
@@ -128,7 +128,7 @@ def check(interface: Interface) -> list[str]:
     faults = reference_rules.faults(interface, all_sections(), section_key)
     for page, text in wanted_pages(interface).items():
         if page.read_text(encoding="utf-8") != text:
-            faults.append(f"{page.relative_to(ROOT)}: differs from the interface or from a source; tools/reference.py renews it")
+            faults.append(f"{page.relative_to(ROOT)}: differs from the interface or a source; tools/reference.py renews it")
     return faults
 
 

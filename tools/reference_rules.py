@@ -6,10 +6,9 @@ from collections.abc import Callable, Iterator
 
 import doc_pages
 from basic_names import NUMBERS, Member, members_of
-from doc_code import CodeChecker
+from doc_code import CodeChecker, split_comment
 from doc_pages import ROOT, Section
 from doc_script import ERROR, PRINT
-from doc_code import split_comment
 from idl_model import Interface
 
 Key = Callable[[Section], str]
@@ -50,9 +49,9 @@ def member_gaps(member: Member, section: Section, interface: Interface) -> Itera
     for fact in needed_facts(member, interface):
         if fact not in section.facts:
             yield f"has no row {fact}"
-    uses = f"Vellora1_{member.name}(" if member.is_event else f"Vellora1.{member.name}"
-    if not any(re.search(re.escape(uses) + (r"" if member.is_event else r"(?!\w)"), code.text) for code in section.codes if code.language == "vb"):
-        yield f"has no example in Basic with {uses.rstrip('(')}"
+    use = f"Vellora1_{member.name}" if member.is_event else f"Vellora1.{member.name}"
+    if not any(re.search(rf"{re.escape(use)}\b", code.text) for code in section.codes if code.language == "vb"):
+        yield f"has no example in Basic with {use}"
     if member.is_property:
         says_saved = "saved with the form" in section.facts.get("Mode", "").lower()
         if says_saved != (member.name in saved_names()):
@@ -104,7 +103,7 @@ def script_faults(code: doc_pages.Code) -> Iterator[str]:
 
 
 def dead_links() -> Iterator[str]:
-    for page in doc_pages.all_pages():
+    for page in [*doc_pages.all_pages(), *sorted(ROOT.glob("*.md"))]:
         for link in doc_pages.links_of(page):
             path, _, part = link.partition("#")
             target = (page.parent / path).resolve() if path else page
