@@ -128,7 +128,8 @@ def check(interface: Interface) -> list[str]:
     faults = reference_rules.faults(interface, all_sections(), section_key)
     for page, text in wanted_pages(interface).items():
         if page.read_text(encoding="utf-8") != text:
-            faults.append(f"{page.relative_to(ROOT)}: differs from the interface or a source; tools/reference.py renews it")
+            place = page.relative_to(ROOT)
+            faults.append(f"{place}: differs from the interface or from a source; tools/reference.py renews it")
     return faults
 
 
