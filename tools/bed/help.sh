@@ -21,7 +21,8 @@ usage: ./vellora COMMAND
       --generation next         as above
   demo                          show the demonstration; without a display it
                                 plays itself and leaves pictures
-  bench [ARGS]                  run the benchmark
+  bench [SUBJECT...]            run the benchmark; typing, sorting and so on,
+                                all of it without a name
   help                          this text
 
 The whole output of the last run's tests is in build/results. Runs have prefixes
