@@ -186,6 +186,70 @@ def events_agree(interface: Interface) -> Iterator[str]:
         yield f"src/host/events.h: {len(found)} events where the interface has {len(expected)}"
 
 
+# ---- What is saved with a form ---------------------------------------------------------------------------------------
+
+
+SAVED_DEFAULTS = {"no_text": ("String", '""'), "no": ("Boolean", "False"), "yes": ("Boolean", "True"),
+                  "long_0": ("Long", "0"), "integer_1": ("Integer", "1"), "fixed<std::int32_t{-1}>": ("Long", "-1"),
+                  "single_0": ("Single", "0"), "single_8": ("Single", "8"),
+                  "no_picture": ("object", "Nothing"), "no_image_list": ("object", "Nothing"),
+                  "ambient_font": ("object", "the container's font"),
+                  "std::u16string()": ("String", '""'), "automatic_width": ("Single", "-1"),
+                  "false": ("Boolean", "False")}
+SAVED_ARRAYS = {"before_columns": "", "columns": "*n*", "after_columns": ""}
+
+
+def saved_default(expression: str) -> tuple[str, str]:
+    color = re.fullmatch(r"fixed_color<system_color::(\w+)>", expression)
+    if not color:
+        return SAVED_DEFAULTS.get(expression, ("?", expression))
+    values = dict(re.findall(r"OleColor (\w+) = 0x(\w+);", source(ROOT / "src/runtime/system_colors.h")))
+    return "Long", "&H" + values[color[1]]
+
+
+def saved_settings() -> list[tuple[str, str, str]]:
+    text = source(ROOT / "src/control/saved_properties.cpp")
+    rows = []
+    for array, suffix in SAVED_ARRAYS.items():
+        body = re.search(rf"std::array {array}\{{(.*?)^\}};", text, re.DOTALL | re.MULTILINE)
+        entries = re.findall(r'Property\{u"(\w+)",\s*(.*?),\s', body[1]) if body else []
+        rows += [(key + suffix, *saved_default(default)) for key, default in entries]
+    return rows
+
+
+def documented_settings() -> list[tuple[str, ...]]:
+    text = (ROOT / "docs/settings-format.md").read_text(encoding="utf-8")
+    table = re.search(r"^\| Key \| Type \| Default \|\n.*?\n(.*?)\n\n", text, re.DOTALL | re.MULTILINE)
+    lines = table[1].splitlines() if table else []
+    return [tuple(cell.strip() for cell in line.strip("|").split("|")) for line in lines]
+
+
+@check
+def saved_settings_are_documented(_: Interface) -> Iterator[str]:
+    saved, documented = saved_settings(), documented_settings()
+    for wanted, there in zip(saved, documented):
+        if wanted != there:
+            yield f"docs/settings-format.md: {there} where src/control/saved_properties.cpp has {wanted}"
+    if len(saved) != len(documented) or not saved:
+        yield f"docs/settings-format.md: {len(documented)} settings where {len(saved)} are saved"
+
+
+@check
+def saved_settings_are_properties(interface: Interface) -> Iterator[str]:
+    properties = {accessor.name for accessor in interface.accessors if accessor.kind != "method"}
+    for key, _, _ in saved_settings():
+        if key.removesuffix("*n*") not in properties:
+            yield f"src/control/saved_properties.cpp: {key} is no property"
+
+
+@check
+def example_bytes_are_golden(_: Interface) -> Iterator[str]:
+    text = (ROOT / "docs/settings-format.md").read_text(encoding="utf-8")
+    shown = "".join(re.findall(r"^    ((?:[0-9A-F]{2} ?)+)$", text, re.MULTILINE))
+    if bytes.fromhex(shown) != (ROOT / "tests/golden/settings-1-example.bin").read_bytes():
+        yield "docs/settings-format.md: the example is not tests/golden/settings-1-example.bin"
+
+
 def main() -> int:
     interface = idl_model.read(ROOT / "idl/VelloraCTL.idl")
     faults = [f"{one.__name__}: {fault}" for one in CHECKS for fault in one(interface)]

@@ -13,10 +13,10 @@
 #include "com/extender.h"
 #include "com/guard.h"
 #include "com/hold.h"
+#include "com/object_format.h"
 #include "com/parking.h"
 #include "com/persistence.h"
 #include "com/type_library.h"
-#include "com/value_format.h"
 #include "com/view_advises.h"
 
 #include <memory>

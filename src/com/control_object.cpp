@@ -74,6 +74,7 @@ void* ControlObject::own_interface(REFIID id) noexcept {
         {IID_IPersistStreamInit, static_cast<IPersistStreamInit*>(&persist_stream_)},
         {IID_IPersistPropertyBag, static_cast<IPersistPropertyBag*>(&persist_bag_)},
         {IID_IPersistStorage, static_cast<IPersistStorage*>(&persist_storage_)},
+        {IID_IPersistMemory, static_cast<IPersistMemory*>(&persist_memory_)},
         {IID_IQuickActivate, static_cast<IQuickActivate*>(&quick_activation_)},
         {IID_IProvideClassInfo, static_cast<IProvideClassInfo2*>(&class_info_)},
         {IID_IProvideClassInfo2, static_cast<IProvideClassInfo2*>(&class_info_)},

@@ -13,6 +13,7 @@
 #include "com/ole_object.h"
 #include "com/per_property_browsing.h"
 #include "com/persist_bag.h"
+#include "com/persist_memory.h"
 #include "com/persist_storage.h"
 #include "com/persist_stream.h"
 #include "com/quick_activate.h"
@@ -53,6 +54,7 @@ private:
     PersistBag persist_bag_{host_};
     PersistStream persist_stream_{host_};
     PersistStorage persist_storage_{host_};
+    PersistMemory persist_memory_{host_};
     QuickActivation quick_activation_{host_};
     ClassInfo class_info_{host_};
     ErrorInfo error_info_{host_};

@@ -2,6 +2,8 @@
 
 #include "com/guard.h"
 
+#include <atomic>
+#include <cstring>
 #include <shlwapi.h>
 
 namespace vellora::com {
@@ -13,6 +15,24 @@ constexpr CLSID standard_font = {
     0x0BE35203, 0x8F91, 0x11CE, {0x9D, 0xE3, 0x00, 0xAA, 0x00, 0x4B, 0xB8, 0x51}};
 constexpr CLSID standard_picture = {
     0x0BE35204, 0x8F91, 0x11CE, {0x9D, 0xE3, 0x00, 0xAA, 0x00, 0x4B, 0xB8, 0x51}};
+
+/// Objects may hold objects that are kept in the same way. Nobody's go this deep on purpose.
+class Nesting {
+public:
+    Nesting() {
+        if (++depth_ > deepest) {
+            --depth_;
+            throw ComFailure(STG_E_DOCFILECORRUPT);
+        }
+    }
+    Nesting(const Nesting&) = delete;
+    Nesting& operator=(const Nesting&) = delete;
+    ~Nesting() { --depth_; }
+
+private:
+    static constexpr int deepest = 16;
+    static inline std::atomic<int> depth_ = 0;
+};
 
 ComPtr<IStream> memory_stream(std::span<const std::byte> content) {
     const ComPtr<IStream> stream = adopt(
@@ -59,28 +79,26 @@ ComPtr<IUnknown> make_object(const CLSID& class_id) {
 
 } // namespace
 
-bool write_object(ByteWriter& out, IUnknown* object) {
-    ComPtr<IPersistStream> storable;
+std::optional<SettingObject> stored_object(IUnknown* object) {
+    SettingObject stored;
+    if (!object)
+        return stored;
+    const ComPtr<IPersistStream> storable = persistent(object);
     CLSID class_id = CLSID_NULL;
-    Bytes state;
-    if (object) {
-        storable = persistent(object);
-        if (!storable || FAILED(storable->GetClassID(&class_id)))
-            return false;
-        state = state_of(storable.Get());
-    }
-    out.number(static_cast<VARTYPE>(VT_UNKNOWN));
-    out.number(class_id);
-    out.number(static_cast<std::uint32_t>(state.size()));
-    out.bytes(state.data(), state.size());
-    return true;
+    if (!storable || FAILED(storable->GetClassID(&class_id)))
+        return std::nullopt;
+    static_assert(sizeof class_id == sizeof stored.class_id);
+    std::memcpy(stored.class_id.data(), &class_id, sizeof class_id);
+    stored.state = state_of(storable.Get());
+    return stored;
 }
 
-Variant read_object(ByteReader& in, StoredObjects objects) {
-    const auto class_id = in.number<CLSID>();
-    const std::span<const std::byte> state = in.bytes(in.number<std::uint32_t>());
-    if (class_id == CLSID_NULL)
+Variant live_object(const SettingObject& stored, StoredObjects objects) {
+    if (stored.is_nothing())
         return Variant(static_cast<IUnknown*>(nullptr));
+    const Nesting level;
+    CLSID class_id;
+    std::memcpy(&class_id, stored.class_id.data(), sizeof class_id);
     const bool is_standard = class_id == standard_font || class_id == standard_picture;
     if (objects == StoredObjects::standard && !is_standard)
         throw ComFailure(E_ACCESSDENIED);
@@ -88,7 +106,7 @@ Variant read_object(ByteReader& in, StoredObjects objects) {
     const ComPtr<IPersistStream> storable = persistent(object.Get());
     if (!storable)
         throw ComFailure(STG_E_DOCFILECORRUPT);
-    check(storable->Load(memory_stream(state).Get()));
+    check(storable->Load(memory_stream(stored.state).Get()));
     return Variant(object.Get());
 }
 

@@ -1,14 +1,20 @@
-// How an object lies in the control's own stream: its class and whatever it saves of itself.
+// Objects between their two forms: alive, and as class and state in the control's own format.
 #pragma once
 
-#include "com/value_format.h"
+#include "com/variant.h"
+#include "host/settings_format.h"
+
+#include <optional>
 
 namespace vellora::com {
 
-/// Nothing is written for an object that cannot save itself; null is kept as Nothing.
-bool write_object(ByteWriter& out, IUnknown* object);
+/// Which classes of objects saved settings may bring to life: the standard font and picture, or any.
+enum class StoredObjects { standard, any };
 
-/// Reads what follows the type. Throws E_ACCESSDENIED for a class that is not allowed.
-Variant read_object(ByteReader& in, StoredObjects objects);
+/// Nothing for an object that cannot save itself; null is kept as Nothing.
+std::optional<SettingObject> stored_object(IUnknown* object);
+
+/// Throws E_ACCESSDENIED for a class that is not allowed, and what an object answers that cannot be made.
+Variant live_object(const SettingObject& stored, StoredObjects objects);
 
 } // namespace vellora::com

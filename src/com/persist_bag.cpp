@@ -31,7 +31,8 @@ STDMETHODIMP PersistBag::Save(IPropertyBag* bag, BOOL clear_dirty, BOOL) noexcep
     return guard(IID_IPersistPropertyBag, [&] {
         need(bag);
         BagStore store(bag, nullptr);
-        save_settings(host_, store, clear_dirty != FALSE);
+        save_settings(host_, store);
+        host_.persistence().saved(clear_dirty != FALSE);
     });
 }
 

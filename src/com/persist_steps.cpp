@@ -20,9 +20,9 @@ void load_settings(ControlHost& host, PropertyStore& store) {
     host.view_changed();
 }
 
-void save_settings(ControlHost& host, PropertyStore& store, bool clear_dirty) {
+void save_settings(ControlHost& host, PropertyStore& store) {
     host.ensure_initialised();
-    host.persistence().save(host.client(), store, clear_dirty);
+    host.client().save(store);
 }
 
 void load_from_stream(ControlHost& host, IStream* stream) {
@@ -31,10 +31,15 @@ void load_from_stream(ControlHost& host, IStream* stream) {
     load_settings(host, store);
 }
 
-void save_to_stream(ControlHost& host, IStream* stream, bool clear_dirty) {
+Bytes saved_settings(ControlHost& host) {
     StreamStore store;
-    save_settings(host, store, clear_dirty);
-    store.save(stream);
+    save_settings(host, store);
+    return store.content();
+}
+
+void save_to_stream(ControlHost& host, IStream* stream) {
+    need(stream);
+    write_exactly(stream, saved_settings(host));
 }
 
 } // namespace vellora::com

@@ -46,7 +46,7 @@ STDMETHODIMP PersistStorage::Save(IStorage* storage, BOOL) noexcept {
         ComPtr<IStream> stream;
         check(storage->CreateStream(stream_name, STGM_CREATE | STGM_WRITE | STGM_SHARE_EXCLUSIVE, 0, 0,
                                     &stream));
-        save_to_stream(host_, stream.Get(), false);
+        save_to_stream(host_, stream.Get());
     });
 }
 

@@ -2,7 +2,6 @@
 
 #include "com/control_host.h"
 #include "com/persist_steps.h"
-#include "com/stream_store.h"
 
 namespace vellora::com {
 
@@ -23,7 +22,10 @@ STDMETHODIMP PersistStream::Load(IStream* stream) noexcept {
 
 STDMETHODIMP PersistStream::Save(IStream* stream, BOOL clear_dirty) noexcept {
     const Hold alive = host_.hold();
-    return guard(IID_IPersistStreamInit, [&] { save_to_stream(host_, stream, clear_dirty != FALSE); });
+    return guard(IID_IPersistStreamInit, [&] {
+        save_to_stream(host_, stream);
+        host_.persistence().saved(clear_dirty != FALSE);
+    });
 }
 
 STDMETHODIMP PersistStream::GetSizeMax(ULARGE_INTEGER* size) noexcept {
@@ -31,9 +33,7 @@ STDMETHODIMP PersistStream::GetSizeMax(ULARGE_INTEGER* size) noexcept {
     return guard(IID_IPersistStreamInit, [&] {
         need(size);
         size->QuadPart = 0;
-        StreamStore store;
-        save_settings(host_, store, false);
-        size->QuadPart = store.size();
+        size->QuadPart = saved_settings(host_).size();
     });
 }
 

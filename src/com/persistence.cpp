@@ -30,10 +30,4 @@ void Persistence::load(ControlClient& client, PropertyStore& store) {
     dirty_ = false;
 }
 
-void Persistence::save(ControlClient& client, PropertyStore& store, bool clear_dirty) {
-    client.save(store);
-    if (clear_dirty)
-        dirty_ = false;
-}
-
 } // namespace vellora::com

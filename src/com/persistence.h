@@ -10,6 +10,8 @@ class Persistence {
 public:
     bool dirty() const noexcept { return dirty_; }
     void set_dirty(bool dirty) noexcept { dirty_ = dirty; }
+    /// What was written counts as saved, if the container says so.
+    void saved(bool clear_dirty) noexcept { dirty_ = dirty_ && !clear_dirty; }
 
     /// Without a site the defaults wait for one, since they come from the container. False when the container
     /// has asked before or has loaded the control.
@@ -18,7 +20,6 @@ public:
     /// For containers that never ask for it: a control that is used has its defaults.
     void ensure_initialised(ControlClient& client);
     void load(ControlClient& client, PropertyStore& store);
-    void save(ControlClient& client, PropertyStore& store, bool clear_dirty);
 
 private:
     bool asked_ = false;

@@ -1,134 +1,90 @@
 #include "com/stream_store.h"
 
+#include "com/bstr.h"
 #include "com/guard.h"
+#include "runtime/host_error.h"
 
 #include <algorithm>
+#include <type_traits>
 
 namespace vellora::com {
 
 namespace {
 
-struct Head {
-    std::uint32_t magic = 0x5350434F;
-    std::uint32_t version = 1;
-    std::uint32_t length = 0;
-};
-constexpr std::uint32_t largest_content = 64 * 1024 * 1024; // pictures included
-constexpr std::size_t most_entries = 16 * 1024;
-
-void read_exactly(IStream* stream, void* out, std::size_t size) {
+void read_exactly(IStream* stream, std::span<std::byte> out) {
     ULONG read = 0;
-    check(stream->Read(out, static_cast<ULONG>(size), &read));
-    if (read != size)
+    check(stream->Read(out.data(), static_cast<ULONG>(out.size()), &read));
+    if (read != out.size())
         throw ComFailure(STG_E_DOCFILECORRUPT);
-}
-
-void write_exactly(IStream* stream, const void* data, std::size_t size) {
-    ULONG written = 0;
-    check(stream->Write(data, static_cast<ULONG>(size), &written));
-    if (written != size)
-        throw ComFailure(STG_E_MEDIUMFULL);
 }
 
 /// Piece by piece: a length in the stream is only believed as far as bytes come.
-Bytes read_content(IStream* stream, std::uint32_t length) {
+Bytes read_whole(IStream* stream) {
     constexpr std::size_t piece = 64 * 1024;
-    Bytes content;
-    while (content.size() < length) {
-        const std::size_t at = content.size();
-        const std::size_t size = std::min(piece, length - at);
-        content.resize(at + size);
-        read_exactly(stream, content.data() + at, size);
+    Bytes whole(settings_head_size);
+    read_exactly(stream, whole);
+    const std::size_t size = settings_size(whole);
+    while (whole.size() < size) {
+        const std::size_t at = whole.size();
+        whole.resize(std::min(at + piece, size));
+        read_exactly(stream, std::span(whole).subspan(at));
     }
-    return content;
+    return whole;
 }
 
-Head read_head(IStream* stream) {
-    Head head;
-    read_exactly(stream, &head, sizeof head);
-    if (head.magic != Head{}.magic || head.length > largest_content)
-        throw ComFailure(STG_E_DOCFILECORRUPT);
-    if (head.version != Head{}.version)
-        throw ComFailure(STG_E_OLDFORMAT);
-    return head;
-}
-
-std::u16string read_name(ByteReader& in) {
-    const auto length = in.number<std::uint16_t>();
-    const std::span<const std::byte> units = in.bytes(length, sizeof(char16_t));
-    std::u16string name(length, u'\0');
-    std::memcpy(name.data(), units.data(), units.size());
-    return name;
+std::optional<SettingValue> stored_value(const VARIANT& value) {
+    switch (V_VT(&value)) {
+    case VT_BOOL:
+        return V_BOOL(&value) != VARIANT_FALSE;
+    case VT_I2:
+        return V_I2(&value);
+    case VT_I4:
+        return std::int32_t{V_I4(&value)};
+    case VT_R4:
+        return V_R4(&value);
+    case VT_BSTR:
+        return std::u16string(bstr_view(V_BSTR(&value)));
+    case VT_DISPATCH:
+    case VT_UNKNOWN:
+        return stored_object(V_UNKNOWN(&value));
+    default:
+        return std::nullopt;
+    }
 }
 
 } // namespace
 
+void write_exactly(IStream* stream, std::span<const std::byte> content) {
+    ULONG written = 0;
+    check(stream->Write(content.data(), static_cast<ULONG>(content.size()), &written));
+    if (written != content.size())
+        throw ComFailure(STG_E_MEDIUMFULL);
+}
+
 void StreamStore::load(IStream* stream) {
     need(stream);
-    const Head head = read_head(stream);
-    decode(read_content(stream, head.length));
+    load(read_whole(stream));
 }
 
-void StreamStore::decode(std::span<const std::byte> content) {
-    entries_.clear();
-    ByteReader in(content);
-    while (!in.at_end()) {
-        std::u16string name = read_name(in);
-        const std::span<const std::byte> value = in.bytes(in.number<std::uint32_t>());
-        if (entries_.size() == most_entries)
-            throw ComFailure(STG_E_DOCFILECORRUPT);
-        entries_.push_back({std::move(name), Bytes(value.begin(), value.end())});
-    }
-}
-
-void StreamStore::save(IStream* stream) const {
-    need(stream);
-    const Bytes content = encoded();
-    if (content.size() > largest_content)
-        throw ComFailure(STG_E_MEDIUMFULL);
-    Head head;
-    head.length = static_cast<std::uint32_t>(content.size());
-    write_exactly(stream, &head, sizeof head);
-    write_exactly(stream, content.data(), content.size());
-}
-
-std::size_t StreamStore::size() const {
-    return sizeof(Head) + encoded().size();
-}
-
-Bytes StreamStore::encoded() const {
-    ByteWriter out;
-    for (const Entry& entry : entries_) {
-        out.number(static_cast<std::uint16_t>(entry.name.size()));
-        out.bytes(entry.name.data(), entry.name.size() * sizeof(char16_t));
-        out.number(static_cast<std::uint32_t>(entry.value.size()));
-        out.bytes(entry.value.data(), entry.value.size());
-    }
-    return out.written();
-}
-
-std::optional<Variant> StreamStore::read(std::u16string_view name, VARTYPE) {
-    const Entry* const entry = find(name);
-    if (!entry)
+std::optional<Variant> StreamStore::read(std::u16string_view name, VARTYPE hint) {
+    const SettingValue* const value = settings_.find(name);
+    if (!value)
         return std::nullopt;
-    ByteReader in(entry->value);
-    return read_value(in, objects_);
+    return std::visit(
+        [&](const auto& held) {
+            if constexpr (!std::is_same_v<std::decay_t<decltype(held)>, SettingObject>)
+                return Variant(held);
+            else if (hint != VT_UNKNOWN && hint != VT_EMPTY)
+                throw HostError(error_number::type_mismatch);
+            else
+                return live_object(held, objects_);
+        },
+        *value);
 }
 
 void StreamStore::write(std::u16string_view name, const VARIANT& value) {
-    ByteWriter out;
-    if (!write_value(out, value))
-        return;
-    if (Entry* const entry = find(name))
-        entry->value = out.written();
-    else
-        entries_.push_back({std::u16string(name), out.written()});
-}
-
-StreamStore::Entry* StreamStore::find(std::u16string_view name) {
-    const auto found = std::find_if(entries_.begin(), entries_.end(),
-                                    [&](const Entry& entry) { return entry.name == name; });
-    return found == entries_.end() ? nullptr : &*found;
+    if (auto stored = stored_value(value))
+        settings_.put(name, std::move(*stored));
 }
 
 } // namespace vellora::com

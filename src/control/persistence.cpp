@@ -17,8 +17,18 @@ namespace vellora {
 
 namespace {
 
+// A font counts by its look: the container's is another object every time it is asked for.
+bool same(const SavedValue& value, const SavedValue& default_value) {
+    const auto font = std::get_if<FontRef>(&value);
+    const auto default_font = std::get_if<FontRef>(&default_value);
+    if (font && *font && default_font && *default_font) {
+        return (*font)->looks_like(**default_font);
+    }
+    return value == default_value;
+}
+
 void write(PropertyBag& bag, std::u16string_view key, const SavedValue& value, const SavedValue& default_value) {
-    if (value != default_value) {
+    if (!same(value, default_value)) {
         bag.write(key, value);
     }
 }
@@ -50,9 +60,10 @@ void Persistence::WriteProperties(PropertyBag& bag) {
     setters_.columns.ensure_headers();
     write_all(bag, core_, properties_before_columns());
     for (std::int32_t column = 1; column <= core_.state.miColumns; ++column) {
+        // A load that failed may have left more columns than there can be.
+        const std::size_t slot = checked_slot(column, maximum_columns);
         for (const SavedColumnProperty& property : column_properties()) {
-            write(bag, column_key(property.key, column),
-                  property.value(core_, static_cast<std::size_t>(column - 1)), property.default_value);
+            write(bag, column_key(property.key, column), property.value(core_, slot), property.default_value);
         }
     }
     write_all(bag, core_, properties_after_columns());
@@ -61,6 +72,9 @@ void Persistence::WriteProperties(PropertyBag& bag) {
 // The order matters throughout: the live text box comes first, and setters rely on fields read before them.
 void Persistence::ReadProperties(PropertyBag& bag) {
     core_.state.mbLoadingProperties = true;
+    // Of a control that is loaded again; a new one has neither.
+    core_.parts.ListView1.rows().clear();
+    core_.parts.ListView1.clear_headers();
     setters_.text_properties.put_Alignment(read<std::int32_t>(bag, core_, u"Alignment"));
     read_fields(bag);
     read_text_look(bag);

@@ -73,7 +73,7 @@ void Selection::scroll_to(std::int32_t row) {
     const std::int32_t target = std::min(
         to_long(static_cast<double>(position + core_.state.msngDropDownHeight - rows_kept_below)),
         core_.parts.ListView1.rows().count());
-    core_.parts.ListView1.ensure_visible(target - 1);
+    core_.parts.ListView1.ensure_visible(std::max(target, 0) - 1);
 }
 
 std::int16_t Selection::TextColumn() const { return core_.state.miTextColumn; }

@@ -29,6 +29,10 @@ inline constexpr std::int32_t element_not_found = 35601;
 /// The control's own object errors: 0x80040000 + 1520 and + 1521.
 inline constexpr std::int32_t invalid_column_index = -2147219984;
 inline constexpr std::int32_t invalid_columns_value = -2147219983;
+/// The platform's own for stored data: 0x80030109 damaged, 0x80030105 kept by a newer version, 0x80030070 full.
+inline constexpr std::int32_t stored_data_damaged = -2147286775;
+inline constexpr std::int32_t stored_data_too_new = -2147286779;
+inline constexpr std::int32_t storage_full = -2147286928;
 } // namespace error_number
 
 /// An error for the caller of a public member. An empty description stands for the host's standard text

@@ -9,6 +9,8 @@ namespace vellora {
 class Font {
 public:
     virtual ~Font() = default;
+    /// Whether text looks the same in both: name, size and style, as they are now.
+    virtual bool looks_like(const Font& other) const = 0;
 };
 using FontRef = std::shared_ptr<Font>;
 

@@ -1,5 +1,6 @@
 // The doors through which settings come and go, and the rule that a control is initialised once.
 #include "hosting/support/hosting_test.h"
+#include "support/container/own_object.h"
 #include "support/container/property_bag.h"
 
 #include <algorithm>
@@ -7,6 +8,28 @@
 
 namespace vellora::test {
 namespace {
+
+/// Takes nothing.
+class FullStream final : public OwnObject<IStream> {
+public:
+    FullStream() : OwnObject({IID_IStream, IID_ISequentialStream}) {}
+    STDMETHODIMP Read(void*, ULONG, ULONG*) override { return E_NOTIMPL; }
+    STDMETHODIMP Write(const void*, ULONG, ULONG* written) override {
+        *written = 0;
+        return S_OK;
+    }
+    STDMETHODIMP Seek(LARGE_INTEGER, DWORD, ULARGE_INTEGER*) override { return E_NOTIMPL; }
+    STDMETHODIMP SetSize(ULARGE_INTEGER) override { return E_NOTIMPL; }
+    STDMETHODIMP CopyTo(IStream*, ULARGE_INTEGER, ULARGE_INTEGER*, ULARGE_INTEGER*) override {
+        return E_NOTIMPL;
+    }
+    STDMETHODIMP Commit(DWORD) override { return S_OK; }
+    STDMETHODIMP Revert() override { return S_OK; }
+    STDMETHODIMP LockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD) override { return E_NOTIMPL; }
+    STDMETHODIMP UnlockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD) override { return E_NOTIMPL; }
+    STDMETHODIMP Stat(STATSTG*, DWORD) override { return E_NOTIMPL; }
+    STDMETHODIMP Clone(IStream**) override { return E_NOTIMPL; }
+};
 
 class PersistenceTest : public HostingTest {
 protected:
@@ -60,6 +83,70 @@ TEST_F(PersistenceTest, ThroughAStream) {
     ComPtr<IPersistStream> door;
     ASSERT_EQ(S_OK, other->QueryInterface(IID_IPersistStream, &door));
     ASSERT_EQ(S_OK, door->Load(stream.Get()));
+    expect_filled(fixture());
+}
+
+TEST_F(PersistenceTest, ThroughMemory) {
+    fill();
+    fixture().host().property_changed(u"Text");
+    ULONG size = 0;
+    ASSERT_EQ(S_OK, as<IPersistMemory>()->GetSizeMax(&size));
+    std::vector<BYTE> memory(size + 8, 0xCC);
+    for (ULONG less = 0; less < size; ++less)
+        EXPECT_EQ(E_INVALIDARG, as<IPersistMemory>()->Save(memory.data(), TRUE, less));
+    EXPECT_EQ(std::vector<BYTE>(size + 8, 0xCC), memory);
+    EXPECT_EQ(S_OK, as<IPersistMemory>()->IsDirty());
+    ASSERT_EQ(S_OK, as<IPersistMemory>()->Save(memory.data(), TRUE, size));
+    EXPECT_EQ(S_FALSE, as<IPersistMemory>()->IsDirty());
+    EXPECT_EQ(8, std::count(memory.end() - 8, memory.end(), 0xCC));
+    const ComPtr<IUnknown> other = make_fixture();
+    ComPtr<IPersistMemory> door;
+    ASSERT_EQ(S_OK, other.As(&door));
+    for (ULONG less = 0; less < size; ++less)
+        EXPECT_EQ(STG_E_DOCFILECORRUPT, door->Load(memory.data(), less)) << less;
+    EXPECT_EQ(u"", fixture().text);
+    ASSERT_EQ(S_OK, door->Load(memory.data(), size));
+    expect_filled(fixture());
+    EXPECT_EQ(E_UNEXPECTED, door->InitNew());
+    EXPECT_EQ(E_POINTER, door->Load(nullptr, size));
+    EXPECT_EQ(E_POINTER, door->Save(nullptr, FALSE, size));
+    EXPECT_EQ(E_POINTER, door->GetSizeMax(nullptr));
+}
+
+TEST_F(PersistenceTest, EveryDoorIsFoundAndKnowsTheClass) {
+    for (const IID& id : {IID_IPersist, IID_IPersistStream, IID_IPersistStreamInit, IID_IPersistStorage,
+                          IID_IPersistMemory, IID_IPersistPropertyBag}) {
+        ComPtr<IPersist> door;
+        CLSID class_id = CLSID_NULL;
+        ASSERT_EQ(S_OK, control()->QueryInterface(id, &door));
+        EXPECT_EQ(S_OK, door->GetClassID(&class_id));
+        EXPECT_EQ(fixture_class.class_id, class_id);
+        EXPECT_EQ(E_POINTER, door->GetClassID(nullptr));
+    }
+}
+
+TEST_F(PersistenceTest, WhatCouldNotBeWrittenIsStillUnsaved) {
+    fill();
+    fixture().host().property_changed(u"Text");
+    const ComPtr<IStream> full(new FullStream);
+    EXPECT_EQ(STG_E_MEDIUMFULL, as<IPersistStreamInit>()->Save(full.Get(), TRUE));
+    EXPECT_EQ(S_OK, as<IPersistStreamInit>()->IsDirty());
+    EXPECT_EQ(E_POINTER, as<IPersistStreamInit>()->Save(nullptr, TRUE));
+    EXPECT_EQ(S_OK, as<IPersistStreamInit>()->IsDirty());
+}
+
+TEST_F(PersistenceTest, ADamagedStreamLeavesTheControlAsItWas) {
+    fill();
+    fixture().take_lines();
+    const ComPtr<IStream> stream = com::adopt(SHCreateMemStream(nullptr, 0));
+    ASSERT_EQ(S_OK, as<IPersistStreamInit>()->Save(stream.Get(), TRUE));
+    ULARGE_INTEGER size = {};
+    ASSERT_EQ(S_OK, stream->Seek({}, STREAM_SEEK_CUR, &size));
+    --size.QuadPart;
+    ASSERT_EQ(S_OK, stream->SetSize(size));
+    rewind(stream.Get());
+    EXPECT_EQ(STG_E_DOCFILECORRUPT, as<IPersistStreamInit>()->Load(stream.Get()));
+    EXPECT_EQ(0, count("load"));
     expect_filled(fixture());
 }
 

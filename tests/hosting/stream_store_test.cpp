@@ -4,6 +4,7 @@
 #include "com/stream_store.h"
 #include "runtime/host_error.h"
 #include "support/container/ambients.h"
+#include "support/container/own_object.h"
 #include "support/container/text.h"
 #include "support/container/variant.h"
 
@@ -20,19 +21,26 @@ using com::StoredObjects;
 using com::StreamStore;
 using Content = std::vector<BYTE>;
 
+constexpr auto class_bytes = [](int kind) {
+    std::array<std::byte, 16> bytes{};
+    constexpr unsigned char shared[] = {0x52, 0xE3, 0x0B, 0x91, 0x8F, 0xCE, 0x11, 0x9D,
+                                        0xE3, 0x00, 0xAA, 0x00, 0x4B, 0xB8, 0x51};
+    bytes[0] = static_cast<std::byte>(kind);
+    for (std::size_t at = 0; at < sizeof shared; ++at)
+        bytes[at + 1] = static_cast<std::byte>(shared[at]);
+    return bytes;
+};
+constexpr auto standard_font = class_bytes(0x03);
+constexpr auto standard_picture = class_bytes(0x04);
+
 ComPtr<IStream> stream_of(const Content& content) {
     return com::adopt(SHCreateMemStream(content.data(), static_cast<UINT>(content.size())));
 }
 
 Content content_of(const StreamStore& store) {
-    const ComPtr<IStream> stream = com::adopt(SHCreateMemStream(nullptr, 0));
-    store.save(stream.Get());
-    Content content(store.size());
-    ULONG read = 0;
-    EXPECT_EQ(S_OK, stream->Seek({}, STREAM_SEEK_SET, nullptr));
-    EXPECT_EQ(S_OK, stream->Read(content.data(), static_cast<ULONG>(content.size()), &read));
-    EXPECT_EQ(content.size(), read);
-    return content;
+    const Bytes bytes = store.content();
+    const auto first = reinterpret_cast<const BYTE*>(bytes.data());
+    return {first, first + bytes.size()};
 }
 
 std::string value_in(StreamStore& store, std::u16string_view name) {
@@ -132,7 +140,7 @@ TEST(StreamStore, NoFlippedBitDoesHarm) {
         content[bit / 8] = static_cast<BYTE>(content[bit / 8] ^ (1U << (bit % 8)));
         failures += FAILED(outcome(content, StoredObjects::standard)) ? 1 : 0;
     }
-    EXPECT_GT(failures, 12 * 8); // magic and version at the least
+    EXPECT_GT(failures, 8 * 8); // mark, version and length at the least
 }
 
 TEST(StreamStore, AnInventedLengthCostsNothing) {
@@ -146,7 +154,10 @@ TEST(StreamStore, AnInventedLengthCostsNothing) {
 TEST(StreamStore, AnotherVersionIsNotGuessedAt) {
     Content content = content_of(StreamStore());
     content[4] = 2;
-    EXPECT_EQ(STG_E_OLDFORMAT, outcome(content));
+    EXPECT_EQ(STG_E_OLDDLL, outcome(content));
+    content[4] = 1;
+    content[6] = 9; // a later minor version
+    EXPECT_EQ(S_OK, outcome(content));
 }
 
 TEST(StreamStore, OnlyStandardObjectsComeFromUntrustedData) {
@@ -158,6 +169,80 @@ TEST(StreamStore, OnlyStandardObjectsComeFromUntrustedData) {
     ASSERT_NE(content.end(), found);
     *found = 0x77;
     EXPECT_EQ(E_ACCESSDENIED, outcome(content, StoredObjects::standard));
+}
+
+TEST(StreamStore, AnObjectComesToLifeOnlyWhereOneIsWanted) {
+    StreamStore store;
+    store.write(u"Text", com::Variant(bold_font().Get()).get());
+    EXPECT_TRUE(store.read(u"Text", VT_UNKNOWN)->is_object());
+    EXPECT_EQ(static_cast<HRESULT>(0x800A000D), com::guard([&] { store.read(u"Text", VT_BSTR); }));
+}
+
+TEST(StreamStore, AStateThatClaimsMoreThanThereIsFails) {
+    // A picture as the platform keeps it: a mark, a length, the picture.
+    for (const std::uint32_t claimed : {1U, 100U, 0x04000000U, 0x7FFFFFFFU, 0xFFFFFFFFU}) {
+        SettingObject picture{standard_picture, Bytes(8)};
+        std::memcpy(picture.state.data(), "lt\0\0", 4);
+        std::memcpy(picture.state.data() + 4, &claimed, sizeof claimed);
+        EXPECT_TRUE(
+            FAILED(com::guard([&] { com::live_object(picture, StoredObjects::standard); })))
+            << claimed;
+    }
+    for (std::size_t size = 0; size < 11; ++size)
+        com::guard([&] { com::live_object({standard_font, Bytes(size)}, StoredObjects::standard); });
+}
+
+/// An object whose saved state holds an object of its own class, and so on without end.
+class Endless final : public OwnObject<IPersistStream> {
+public:
+    static constexpr CLSID class_id = {
+        0x3A1C9D52, 0x55B0, 0x4A7E, {0x9B, 0x1F, 0x60, 0x0C, 0x11, 0xE4, 0x72, 0xA9}};
+    static int loads;
+
+    Endless() : OwnObject({IID_IPersist, IID_IPersistStream}) {}
+    static SettingObject stored() {
+        SettingObject object{{}, Bytes(1)};
+        std::memcpy(object.class_id.data(), &class_id, sizeof class_id);
+        return object;
+    }
+    STDMETHODIMP GetClassID(CLSID* id) override {
+        *id = class_id;
+        return S_OK;
+    }
+    STDMETHODIMP IsDirty() override { return S_FALSE; }
+    STDMETHODIMP Load(IStream*) override {
+        ++loads;
+        return com::guard([] { com::live_object(stored(), StoredObjects::any); });
+    }
+    STDMETHODIMP Save(IStream*, BOOL) override { return E_NOTIMPL; }
+    STDMETHODIMP GetSizeMax(ULARGE_INTEGER*) override { return E_NOTIMPL; }
+};
+int Endless::loads = 0;
+
+class EndlessFactory final : public OwnObject<IClassFactory> {
+public:
+    EndlessFactory() : OwnObject({IID_IClassFactory}) {}
+    STDMETHODIMP CreateInstance(IUnknown*, REFIID id, void** object) override {
+        const ComPtr<Endless> made(new Endless);
+        return made->QueryInterface(id, object);
+    }
+    STDMETHODIMP LockServer(BOOL) override { return S_OK; }
+};
+
+TEST(StreamStore, ObjectsWithinObjectsComeToAnEnd) {
+    const ComPtr<EndlessFactory> factory(new EndlessFactory);
+    DWORD cookie = 0;
+    ASSERT_EQ(S_OK, CoRegisterClassObject(Endless::class_id, factory.Get(), CLSCTX_INPROC_SERVER,
+                                          REGCLS_MULTIPLEUSE, &cookie));
+    EXPECT_EQ(STG_E_DOCFILECORRUPT,
+              com::guard([] { com::live_object(Endless::stored(), StoredObjects::any); }));
+    EXPECT_EQ(16, Endless::loads);
+    EXPECT_EQ(S_OK, CoRevokeClassObject(cookie));
+    // The next one starts from nothing.
+    EXPECT_TRUE(com::stored_object(bold_font().Get()));
+    EXPECT_NE(nullptr, com::live_object(*com::stored_object(bold_font().Get()), StoredObjects::standard)
+                           .object()
+                           .Get());
 }
 
 TEST(StreamStore, WhatCannotBeStoredIsLeftOut) {

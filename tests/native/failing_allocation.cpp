@@ -1,5 +1,6 @@
 #include "native/failing_allocation.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <limits>
 #include <malloc.h>
@@ -11,6 +12,7 @@ constexpr std::size_t unlimited = std::numeric_limits<std::size_t>::max();
 
 std::size_t allowed_allocations = unlimited;
 std::size_t in_use = 0;
+std::size_t peak = 0;
 
 std::size_t size_of(void* block) {
 #ifdef _WIN32
@@ -29,6 +31,7 @@ void* allocate(std::size_t bytes) {
     if (!block)
         throw std::bad_alloc();
     in_use += size_of(block);
+    peak = std::max(peak, in_use);
     return block;
 }
 
@@ -77,6 +80,14 @@ FailingAllocation::~FailingAllocation() {
 
 std::size_t bytes_in_use() {
     return in_use;
+}
+
+std::size_t peak_bytes() {
+    return peak;
+}
+
+void forget_peak() {
+    peak = in_use;
 }
 
 } // namespace vellora::test

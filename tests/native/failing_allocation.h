@@ -17,4 +17,8 @@ public:
 /// Bytes the process holds, as the allocator rounds them up.
 std::size_t bytes_in_use();
 
+/// The most it held at any time since `forget_peak`.
+std::size_t peak_bytes();
+void forget_peak();
+
 } // namespace vellora::test

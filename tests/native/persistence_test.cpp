@@ -166,6 +166,29 @@ TEST(Saving, WritesNoColumnsOfAControlThatHasNone) {
     EXPECT_EQ(std::count(keys.begin(), keys.end(), "Columns"), 0);
 }
 
+TEST(Saving, AFontThatLooksLikeTheContainersIsNotWritten) {
+    HeadlessControl combo;
+    combo.site.font = make_font(195);
+    EXPECT_EQ(saved_keys(combo), (Lines{"Text", "LeftMargin"}));
+    combo.site.font = make_font(210);
+    EXPECT_EQ(saved_keys(combo), (Lines{"Text", "Font", "LeftMargin"}));
+    combo.site.font = nullptr;
+    EXPECT_EQ(saved_keys(combo), (Lines{"Text", "Font", "LeftMargin"}));
+}
+
+TEST(Saving, WithTheListOpenOrInsideAnEventWritesTheSame) {
+    HeadlessControl combo;
+    set_everything(combo);
+    combo.add_rows(3);
+    const Lines before = saved_keys(combo);
+    std::vector<Lines> during;
+    combo.events.on_drop_down = [&](DropDownState) { during.push_back(saved_keys(combo)); };
+    combo.drop_down().ShowList();
+    during.push_back(saved_keys(combo));
+    combo.drop_down().HideList();
+    EXPECT_EQ(during, (std::vector<Lines>(3, before)));
+}
+
 TEST(Saving, ChangesNothingOfTheControl) {
     HeadlessControl combo;
     combo.add_rows(3);
@@ -233,6 +256,34 @@ TEST(Loading, BringsEverythingBack) {
             EXPECT_EQ(again.at(key), bag.at(key)) << readable(key);
         }
     }
+}
+
+TEST(Loading, ASecondTimeReplacesEverything) {
+    HeadlessControl source;
+    set_everything(source);
+    source.state().mlListIndex = -1;
+    HeadlessPropertyBag full;
+    source.persistence().WriteProperties(full);
+    HeadlessPropertyBag empty;
+    Loaded combo(full);
+    combo.persistence().ReadProperties(empty);
+    Loaded fresh(empty);
+    EXPECT_EQ(saved_keys(combo), saved_keys(fresh));
+    combo.persistence().ReadProperties(full);
+    EXPECT_EQ(saved_keys(combo), full.written);
+}
+
+TEST(Loading, AfterAFailureMakesTheControlWhole) {
+    HeadlessPropertyBag bad;
+    bad.put(u"Columns", std::int16_t{51});
+    HeadlessControl combo(Mode::run, Stage::created);
+    EXPECT_EQ(failure_of([&] { combo.persistence().ReadProperties(bad); }).number, 9);
+    HeadlessPropertyBag good;
+    good.put(u"Columns", std::int16_t{2});
+    combo.persistence().ReadProperties(good);
+    EXPECT_FALSE(combo.state().mbLoadingProperties);
+    EXPECT_EQ(combo.columns().Columns(), 2);
+    EXPECT_EQ(combo.list_view.header_count(), 2);
 }
 
 TEST(Loading, HandsTheSettingsToTheList) {

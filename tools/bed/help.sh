@@ -15,6 +15,9 @@ usage: ./vellora COMMAND
       --generation next         on the Wine of the distribution's next release
                                 instead of this one's
       --keep                    leave display and Wine running for a look
+  fuzz [SECONDS]                change saved settings at random under sanitizers,
+                                from where the last run ended (300 s). A fault
+                                leaves its input in build/fuzz/failures
   wine [OPTIONS] PROGRAM [ARGS] run a Windows program in the test bed; its exit
                                 code is handed back (the low eight bits)
       --64                      a 64-bit one

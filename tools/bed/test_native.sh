@@ -1,8 +1,9 @@
-# Ring native: the portable code under sanitizers, and the checkers.
+# Ring native: the portable code under sanitizers, the checkers, and the fuzzers beside them.
 # shellcheck shell=bash
 
 ring_native() {
     local program checker
+    fuzz_begin
     for program in "$VELLORA_ROOT"/build/native/tests/*_tests; do
         [ -x "$program" ] || continue
         gtest_suite native "$program" env \
@@ -12,6 +13,7 @@ ring_native() {
     while IFS= read -r checker; do
         [ -z "$checker" ] || run_checker "$checker"
     done < <(checkers)
+    fuzz_end
 }
 
 # checkers - tools/check_*.py: each one looks at one property of the whole.

@@ -4,6 +4,7 @@
 #include "widgets/win32/wide_text.h"
 
 #include <atomic>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -56,6 +57,42 @@ private:
     std::atomic<ULONG> references_{0};
 };
 
+struct TextDeleter {
+    void operator()(OLECHAR* text) const { SysFreeString(text); }
+};
+
+struct Look {
+    std::wstring name;
+    LONGLONG size = 0;
+    SHORT weight = 0;
+    SHORT character_set = 0;
+    BOOL italic = FALSE;
+    BOOL underlined = FALSE;
+    BOOL struck_through = FALSE;
+    bool operator==(const Look&) const = default;
+};
+
+/// Nothing when the font does not say. IFont::IsEqual would not do: it takes every font for one of the
+/// platform's own.
+std::optional<Look> look_of(IFont* font) {
+    Look look;
+    BSTR name = nullptr;
+    CY size{};
+    const bool known = SUCCEEDED(font->get_Name(&name)) && SUCCEEDED(font->get_Size(&size)) &&
+                       SUCCEEDED(font->get_Weight(&look.weight)) &&
+                       SUCCEEDED(font->get_Charset(&look.character_set)) &&
+                       SUCCEEDED(font->get_Italic(&look.italic)) &&
+                       SUCCEEDED(font->get_Underline(&look.underlined)) &&
+                       SUCCEEDED(font->get_Strikethrough(&look.struck_through));
+    const std::unique_ptr<OLECHAR, TextDeleter> owner(name);
+    if (!known || !name) {
+        return std::nullopt;
+    }
+    look.name = name;
+    look.size = size.int64;
+    return look;
+}
+
 [[noreturn]] void raise_no_font() {
     throw HostError(error_number::invalid_property_value);
 }
@@ -66,6 +103,12 @@ OleFont::OleFont(ComPtr<IFontDisp> font) : dispatch_(std::move(font)) {
     if (!dispatch_ || FAILED(dispatch_.As(&font_))) {
         raise_no_font();
     }
+}
+
+bool OleFont::looks_like(const Font& other) const {
+    // Every font of this process came in as one of these.
+    const std::optional<Look> mine = look_of(font_.Get());
+    return mine && mine == look_of(static_cast<const OleFont&>(other).font());
 }
 
 std::shared_ptr<OleFont> OleFont::create(std::u16string_view face, float points) {

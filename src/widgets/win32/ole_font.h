@@ -22,6 +22,9 @@ public:
     /// A font object of the platform's own. Error 380 when it cannot be made.
     static std::shared_ptr<OleFont> create(std::u16string_view face, float points);
 
+    /// False for a font that does not answer.
+    bool looks_like(const Font& other) const override;
+
     IFontDisp* dispatch() const { return dispatch_.Get(); }
     IFont* font() const { return font_.Get(); }
 

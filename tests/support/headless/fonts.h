@@ -11,6 +11,9 @@ namespace vellora::test {
 class HeadlessFont : public Font {
 public:
     explicit HeadlessFont(float height) : line_height(height) {}
+    bool looks_like(const Font& other) const override {
+        return line_height == static_cast<const HeadlessFont&>(other).line_height;
+    }
     float line_height;
 };
 

@@ -1,4 +1,4 @@
-// Reading converts numbers to the type that is asked for, as hosts do; nothing else converts.
+// Reading converts numbers to the type that is asked for, as hosts do; of the rest only Nothing does.
 #include "support/headless/property_bag.h"
 
 #include "runtime/checked.h"
@@ -10,6 +10,10 @@
 namespace vellora::test {
 
 namespace {
+
+/// Nothing is of every kind, and means what an absent key means.
+template <class Type>
+constexpr bool is_object = !std::is_arithmetic_v<Type> && !std::is_same_v<Type, std::u16string>;
 
 template <class Type>
 SavedValue from_number(double number) {
@@ -27,11 +31,13 @@ SavedValue from_number(double number) {
 /// For a default of type Wanted and a saved value of type Saved.
 struct Convert {
     template <class Wanted, class Saved>
-    SavedValue operator()(const Wanted&, const Saved& saved) const {
+    SavedValue operator()(const Wanted& wanted, const Saved& saved) const {
         if constexpr (std::is_same_v<Wanted, Saved>) {
             return saved;
         } else if constexpr (std::is_arithmetic_v<Wanted> && std::is_arithmetic_v<Saved>) {
             return from_number<Wanted>(static_cast<double>(saved));
+        } else if constexpr (is_object<Wanted> && is_object<Saved>) {
+            return saved ? throw HostError(error_number::type_mismatch) : wanted;
         } else {
             throw HostError(error_number::type_mismatch);
         }

@@ -18,6 +18,7 @@ public:
     /// Puts a value in as an earlier save did.
     void put(std::u16string_view key, SavedValue value) { values_[std::u16string(key)] = std::move(value); }
     bool has(std::u16string_view key) const { return values_.count(std::u16string(key)) != 0; }
+    const std::map<std::u16string, SavedValue>& values() const { return values_; }
     const SavedValue& at(std::u16string_view key) const { return values_.at(std::u16string(key)); }
     /// The keys written, in order; a key written twice stands there twice.
     std::vector<std::string> written;
