@@ -52,16 +52,12 @@ bool Coverage::is_new() {
     for (std::size_t place = 0; place < places; ++place) {
         const std::uint8_t now = magnitude(counts[place]);
         if ((now & ~seen_[place]) != 0) {
+            seen_places_ += seen_[place] == 0 ? 1 : 0;
             seen_[place] = static_cast<std::uint8_t>(seen_[place] | now);
             found = true;
         }
     }
     return found;
-}
-
-std::size_t Coverage::seen() const {
-    return static_cast<std::size_t>(
-        std::ranges::count_if(seen_, [](std::uint8_t magnitudes) { return magnitudes != 0; }));
 }
 
 } // namespace vellora::fuzz

@@ -18,10 +18,11 @@ public:
     /// Those seen are remembered.
     bool is_new();
     /// Places seen so far.
-    std::size_t seen() const;
+    std::size_t seen() const { return seen_places_; }
 
 private:
     std::array<std::uint8_t, places> seen_{};
+    std::size_t seen_places_ = 0;
 };
 
 } // namespace vellora::fuzz

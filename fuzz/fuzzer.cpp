@@ -119,13 +119,17 @@ public:
         target_.run(input);
         coverage_.stop();
         current.input = nullptr;
+        const std::size_t places = coverage_.seen();
         if (coverage_.is_new()) {
+            if (coverage_.seen() > places) {
+                worth_keeping_.push_back(input);
+            }
             pool_.push_back(std::move(input));
         }
     }
 
     void keep(const files::path& folder) const {
-        for (const Input& input : pool_) {
+        for (const Input& input : worth_keeping_) {
             write(folder / name_of(input), input);
         }
     }
@@ -140,6 +144,7 @@ private:
     Mutation mutation_;
     Coverage coverage_;
     std::vector<Input> pool_;
+    std::vector<Input> worth_keeping_;
 };
 
 } // namespace

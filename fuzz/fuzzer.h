@@ -23,7 +23,7 @@ struct Options {
     int seconds = 30;
     /// Folders with inputs to start from.
     std::vector<std::string> corpora;
-    /// Where the inputs that reached something new are left at the end; empty for nowhere.
+    /// Where the inputs that reached new places are left at the end; empty for nowhere.
     std::string keep;
     /// Where a failing input is left.
     std::string failures = ".";

@@ -8,6 +8,7 @@
 #include <fstream>
 #include <functional>
 #include <iterator>
+#include <objsafe.h>
 #include <shlwapi.h>
 
 namespace vellora::test {
@@ -40,8 +41,8 @@ ComPtr<IStorage> memory_storage() {
     ComPtr<ILockBytes> bytes;
     ComPtr<IStorage> storage;
     EXPECT_EQ(S_OK, CreateILockBytesOnHGlobal(nullptr, TRUE, &bytes));
-    EXPECT_EQ(S_OK, StgCreateDocfileOnILockBytes(
-                        bytes.Get(), STGM_CREATE | STGM_READWRITE | STGM_SHARE_EXCLUSIVE, 0, &storage));
+    EXPECT_EQ(S_OK, StgCreateDocfileOnILockBytes(bytes.Get(), STGM_CREATE | STGM_READWRITE | STGM_SHARE_EXCLUSIVE, 0,
+                                                 &storage));
     return storage;
 }
 
@@ -238,8 +239,7 @@ TEST_F(Persistence, ADamagedStreamGivesAnErrorOrWhatItSays) {
     const Bytes whole = golden("settings-1");
     ASSERT_EQ(S_OK, load(site, whole));
     for (std::size_t size = 0; size < whole.size(); size += 7)
-        EXPECT_EQ(STG_E_DOCFILECORRUPT,
-                  load(site, {whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size)}));
+        EXPECT_EQ(STG_E_DOCFILECORRUPT, load(site, {whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size)}));
     expect_golden(site);
     for (std::size_t byte = 0; byte < whole.size(); ++byte) {
         Bytes flipped = whole;
@@ -276,8 +276,7 @@ TEST_F(Persistence, AFailedReadKeepsWhatWasReadBeforeIt) {
 TEST_F(Persistence, OnlyStandardObjectsComeFromUntrustedSettings) {
     Site& site = fresh();
     ASSERT_EQ(S_OK, site.as<IObjectSafety>()->SetInterfaceSafetyOptions(
-                        IID_IPersistStreamInit, INTERFACESAFE_FOR_UNTRUSTED_DATA,
-                        INTERFACESAFE_FOR_UNTRUSTED_DATA));
+                        IID_IPersistStreamInit, INTERFACESAFE_FOR_UNTRUSTED_DATA, INTERFACESAFE_FOR_UNTRUSTED_DATA));
     EXPECT_EQ(S_OK, load(site, golden("settings-1")));
     Bytes foreign = golden("settings-1");
     constexpr BYTE font_class[] = {0x03, 0x52, 0xE3, 0x0B};
@@ -308,7 +307,7 @@ TEST_F(Persistence, ABagMayAnswerAnything) {
         V_BYREF(&value) = to;
         answers.push_back(value);
     };
-    by_reference(VT_VARIANT, inner.out());
+    by_reference(VT_VARIANT, &inner.raw());
     by_reference(VT_VARIANT, nullptr);
     by_reference(VT_BSTR, &no_text);
     by_reference(VT_BSTR, nullptr);
@@ -316,10 +315,9 @@ TEST_F(Persistence, ABagMayAnswerAnything) {
     by_reference(VT_I4, nullptr);
     const ComPtr<OddBag> bag(new OddBag);
     const auto door = site.as<IPersistPropertyBag>();
-    for (const wchar_t* key :
-         {L"Text", L"Columns", L"ColumnHeader1", L"ColumnWidth1", L"HeaderIcon1", L"ColumnHidden1", L"BackColor",
-          L"DropDownHeight", L"ListIndex", L"Sorted", L"SortColumn", L"Picture", L"Font", L"Alignment",
-          L"MaxLength", L"LeftMargin", L"HeaderIcons"}) {
+    for (const wchar_t* key : {L"Text", L"Columns", L"ColumnHeader1", L"ColumnWidth1", L"HeaderIcon1", L"ColumnHidden1",
+                               L"BackColor", L"DropDownHeight", L"ListIndex", L"Sorted", L"SortColumn", L"Picture",
+                               L"Font", L"Alignment", L"MaxLength", L"LeftMargin", L"HeaderIcons"}) {
         bag->key = key;
         for (const VARIANT& answer : answers) {
             bag->answer = answer;

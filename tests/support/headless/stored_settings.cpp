@@ -28,7 +28,10 @@ struct Store {
     SettingValue operator()(const ImageListRef& list) const {
         return list ? SettingObject{{std::byte{1}}, {}} : SettingObject{};
     }
-    template <class Plain> SettingValue operator()(const Plain& value) const { return value; }
+    template <class Plain>
+    SettingValue operator()(const Plain& value) const {
+        return value;
+    }
 };
 
 } // namespace
