@@ -18,7 +18,7 @@ target_compile_definitions(com_tests PRIVATE
   VELLORA_TESTS_DIR="${tests_dir}" VELLORA_VERSION="${PROJECT_VERSION}")
 target_link_libraries(com_tests PRIVATE
   test_container vellora_win32 vellora_com vellora_behaviour vellora_idl gtest gtest_main
-  ${host_libraries} uxtheme imm32 oleacc version)
+  ${host_libraries} uxtheme imm32 oleacc shlwapi version)
 # The tests load the library by its path, so nothing but this makes it.
 add_dependencies(com_tests VelloraCTL)
 
