@@ -50,6 +50,9 @@ void Coverage::stop() {
 bool Coverage::is_new() {
     bool found = false;
     for (std::size_t place = 0; place < places; ++place) {
+        if (counts[place] == 0) {
+            continue;
+        }
         const std::uint8_t now = magnitude(counts[place]);
         if ((now & ~seen_[place]) != 0) {
             seen_places_ += seen_[place] == 0 ? 1 : 0;

@@ -401,6 +401,27 @@ TEST(Loading, OfMoreThanFiftyColumnsIsASubscriptOutOfRange) {
     EXPECT_EQ(load_failure(bag), (Failure{9, u"", u""}));
 }
 
+TEST(Loading, OfMoreThanFiftyColumnsLeavesNothingToBeSaved) {
+    HeadlessPropertyBag bag;
+    bag.put(u"Columns", std::int16_t{51});
+    HeadlessControl combo(Mode::run, Stage::created);
+    EXPECT_EQ(failure_of([&] { combo.persistence().ReadProperties(bag); }).number, 9);
+    HeadlessPropertyBag again;
+    EXPECT_EQ(failure_of([&] { combo.persistence().WriteProperties(again); }).number, 9);
+}
+
+TEST(Loading, AHeightFarBelowNothingOnlyHindersScrolling) {
+    for (const float height : {-2147483648.0F, -1e10F, -3.0F}) {
+        HeadlessPropertyBag bag;
+        bag.put(u"DropDownHeight", height);
+        Loaded combo(bag);
+        combo.size();
+        combo.add_rows(3);
+        EXPECT_NE(failure_of([&] { combo.selection().put_ListIndex(1); }), no_failure) << height;
+        EXPECT_EQ(combo.selection().ListIndex(), 1);
+    }
+}
+
 TEST(Loading, OfNoColumnsFailsAsTheSetterFails) {
     for (const std::int16_t columns : Integers{0, -1}) {
         HeadlessPropertyBag bag;
