@@ -44,9 +44,10 @@ void save_whatever_comes(HeadlessControl& combo) {
     failure_of([&] { combo.persistence().WriteProperties(bag); });
 }
 
-void act(HeadlessControl& combo, User& user, std::uint8_t choice, std::uint8_t detail) {
+void act(HeadlessControl& combo, PropertyBag& bag, std::uint8_t choice, std::uint8_t detail) {
+    User user(combo);
     const auto column = static_cast<std::int16_t>(detail % 60);
-    switch (choice % 16) {
+    switch (choice % 17) {
     case 0:
         return combo.drop_down().ShowList();
     case 1:
@@ -78,22 +79,23 @@ void act(HeadlessControl& combo, User& user, std::uint8_t choice, std::uint8_t d
         return combo.items().Clear();
     case 14:
         return combo.text_properties().put_Alignment(detail % 4);
+    case 15:
+        return combo.persistence().ReadProperties(bag);
     default:
         return save_whatever_comes(combo);
     }
 }
 
-void use(HeadlessControl& combo, const Choose& choose) {
-    User user(combo);
+void use(HeadlessControl& combo, PropertyBag& bag, const Choose& choose) {
     combo.events.on_drop_down = [&](DropDownState) { save_whatever_comes(combo); };
     const auto attempt = [](const auto& action) { failure_of(action); };
     attempt([&] { combo.size(); });
     attempt([&] { combo.add_rows(3); });
     attempt([&] { combo.drop_down().ShowList(); });
-    attempt([&] { user.click_row(1); });
+    attempt([&] { User(combo).click_row(1); });
     for (int actions = choose() % most_actions; actions > 0; --actions) {
         const std::uint8_t choice = choose();
-        attempt([&] { act(combo, user, choice, choose()); });
+        attempt([&] { act(combo, bag, choice, choose()); });
     }
     attempt([&] { combo.drop_down().HideList(); });
     save_whatever_comes(combo);
@@ -106,7 +108,7 @@ void load_and_use(PropertyBag& bag, Mode mode, const Choose& choose) {
     if (load(combo, bag)) {
         expect_the_same_again(combo, mode);
     }
-    use(combo, choose);
+    use(combo, bag, choose);
     load(combo, bag);
     save_whatever_comes(combo);
 }
