@@ -29,6 +29,7 @@ std::wstring version() {
 constexpr GUID category_control = {0x40FC6ED4, 0x2438, 0x11CF, {0xA3, 0xDB, 0x08, 0x00, 0x36, 0xF1, 0x25, 0x02}};
 constexpr GUID category_programmable = {0x40FC6ED5, 0x2438, 0x11CF, {0xA3, 0xDB, 0x08, 0x00, 0x36, 0xF1, 0x25, 0x02}};
 constexpr GUID category_property_bag = {0x0DE86A57, 0x2BAA, 0x11CF, {0xA2, 0x29, 0x00, 0xAA, 0x00, 0x3D, 0x73, 0x52}};
+constexpr GUID category_memory = {0x0DE86A55, 0x2BAA, 0x11CF, {0xA2, 0x29, 0x00, 0xAA, 0x00, 0x3D, 0x73, 0x52}};
 constexpr GUID category_storage = {0x0DE86A52, 0x2BAA, 0x11CF, {0xA2, 0x29, 0x00, 0xAA, 0x00, 0x3D, 0x73, 0x52}};
 constexpr GUID category_stream_init = {0x0DE86A53, 0x2BAA, 0x11CF, {0xA2, 0x29, 0x00, 0xAA, 0x00, 0x3D, 0x73, 0x52}};
 
@@ -94,8 +95,8 @@ std::vector<RegistryEntry> class_entries() {
         {key + L"\\Programmable", L"", L""},
     };
     std::ranges::move(server_entries(key), std::back_inserter(entries));
-    for (const GUID& category :
-         {category_control, category_programmable, category_property_bag, category_storage, category_stream_init})
+    for (const GUID& category : {category_control, category_programmable, category_property_bag, category_memory,
+                                 category_storage, category_stream_init})
         entries.push_back({key + L"\\Implemented Categories\\" + text_of(category), L"", L""});
     return entries;
 }
