@@ -9,40 +9,26 @@ protected:
     static std::wstring value(const std::wstring& key) { return value_of(HKEY_LOCAL_MACHINE, key); }
     static bool exists(const std::wstring& key) { return has_key(HKEY_LOCAL_MACHINE, key); }
     static const Registrar library() { return Registrar::of_library(); }
-
-    /// The program's exit code.
-    static DWORD run(std::wstring command) {
-        STARTUPINFOW start = {};
-        start.cb = sizeof start;
-        PROCESS_INFORMATION process = {};
-        EXPECT_TRUE(
-            CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &process));
-        WaitForSingleObject(process.hProcess, INFINITE);
-        DWORD code = 0;
-        GetExitCodeProcess(process.hProcess, &code);
-        CloseHandle(process.hThread);
-        CloseHandle(process.hProcess);
-        return code;
-    }
 };
 
 TEST_F(RegistrationForTheMachine, LeavesNothingBehind) {
     EXPECT_TRUE(same_lines({}, traces()));
+    const ClassesSnapshot before = classes_snapshot();
     ASSERT_EQ(S_OK, library().register_it());
     EXPECT_EQ(value(own_type_library()), value(server_key()));
     EXPECT_TRUE(exists(interface_key()));
     ASSERT_EQ(S_OK, library().unregister_it());
-    EXPECT_TRUE(same_lines({}, changes()));
+    EXPECT_TRUE(same_lines({}, difference(before, classes_snapshot())));
 }
 
 TEST_F(RegistrationForTheMachine, ChangesNothingTheSecondTime) {
     ASSERT_EQ(S_OK, library().register_it());
-    const ClassesSnapshot once = classes_snapshot();
+    const ClassesSnapshot before = registered();
     ASSERT_EQ(S_OK, library().register_it());
-    EXPECT_TRUE(same_lines({}, difference(once, classes_snapshot())));
+    EXPECT_TRUE(same_lines({}, difference(before, registered())));
     ASSERT_EQ(S_OK, library().unregister_it());
     ASSERT_EQ(S_OK, library().unregister_it());
-    EXPECT_TRUE(same_lines({}, changes()));
+    EXPECT_TRUE(same_lines({}, traces()));
 }
 
 TEST_F(RegistrationForTheMachine, BelongsToTheCopyRegisteredLast) {
@@ -52,11 +38,11 @@ TEST_F(RegistrationForTheMachine, BelongsToTheCopyRegisteredLast) {
     ASSERT_EQ(S_OK, second.registrar().register_it());
     EXPECT_EQ(second.path(), value(server_key()));
     EXPECT_EQ(second.path(), value(own_type_library()));
-    const ClassesSnapshot registered = classes_snapshot();
+    const ClassesSnapshot before = registered();
     EXPECT_EQ(S_OK, first.registrar().unregister_it());
-    EXPECT_TRUE(same_lines({}, difference(registered, classes_snapshot())));
+    EXPECT_TRUE(same_lines({}, difference(before, registered())));
     EXPECT_EQ(S_OK, second.registrar().unregister_it());
-    EXPECT_TRUE(same_lines({}, changes()));
+    EXPECT_TRUE(same_lines({}, traces()));
 }
 
 TEST_F(RegistrationForTheMachine, KeepsTheTypeLibraryThatALaterCopyRegistered) {
@@ -68,7 +54,7 @@ TEST_F(RegistrationForTheMachine, KeepsTheTypeLibraryThatALaterCopyRegistered) {
     EXPECT_EQ(other.path(), value(own_type_library()));
     EXPECT_TRUE(exists(interface_key()));
     EXPECT_EQ(S_OK, other.registrar().unregister_it());
-    EXPECT_TRUE(same_lines({}, changes()));
+    EXPECT_TRUE(same_lines({}, traces()));
 }
 
 // Whoever deletes the folder of a library without unregistering it can register and unregister another copy.
@@ -78,7 +64,7 @@ TEST_F(RegistrationForTheMachine, OfADeletedCopyIsForgottenByAnotherOne) {
         ASSERT_EQ(S_OK, deleted.registrar().register_it());
     }
     EXPECT_EQ(S_OK, library().unregister_it());
-    EXPECT_TRUE(same_lines({}, changes()));
+    EXPECT_TRUE(same_lines({}, traces()));
 }
 
 TEST_F(RegistrationForTheMachine, KnowsTheFileByItsShortNameToo) {
@@ -90,17 +76,17 @@ TEST_F(RegistrationForTheMachine, KnowsTheFileByItsShortNameToo) {
     put_value(HKEY_LOCAL_MACHINE, server_key(), short_path);
     put_value(HKEY_LOCAL_MACHINE, own_type_library(), short_path);
     EXPECT_EQ(S_OK, copy.registrar().unregister_it());
-    EXPECT_TRUE(same_lines({}, changes()));
+    EXPECT_TRUE(same_lines({}, traces()));
 }
 
 TEST_F(RegistrationForTheMachine, WorksInAnyFolder) {
     const LibraryCopy copy(L"Umlaute äöü, Ελληνικά & 名前");
-    EXPECT_EQ(0U, run(L"regsvr32 /s \"" + copy.path() + L"\""));
+    EXPECT_EQ(0U, run_program(L"regsvr32 /s \"" + copy.path() + L"\""));
     EXPECT_EQ(copy.path(), value(server_key()));
     EXPECT_EQ(copy.path(), value(own_type_library()));
     EXPECT_NO_THROW(create_registered(__uuidof(Vellora)));
-    EXPECT_EQ(0U, run(L"regsvr32 /s /u \"" + copy.path() + L"\""));
-    EXPECT_TRUE(same_lines({}, changes()));
+    EXPECT_EQ(0U, run_program(L"regsvr32 /s /u \"" + copy.path() + L"\""));
+    EXPECT_TRUE(same_lines({}, traces()));
 }
 
 // The two bitnesses share the type library's key, and the platform forgets the interfaces for both.
@@ -116,7 +102,7 @@ TEST_F(RegistrationForTheMachine, KeepsWhatTheOtherBitnessNeeds) {
     remove_key(HKEY_LOCAL_MACHINE, other_type_library());
     ASSERT_EQ(S_OK, library().register_it());
     EXPECT_EQ(S_OK, library().unregister_it());
-    EXPECT_TRUE(same_lines({}, changes()));
+    EXPECT_TRUE(same_lines({}, traces()));
 }
 
 } // namespace

@@ -68,19 +68,19 @@ TEST_F(FailingRegistration, TakesBackWhatWasWritten) {
         EXPECT_EQ(HRESULT_FROM_WIN32(ERROR_CHILD_MUST_BE_VOLATILE), Registrar::of_library().register_it());
         EXPECT_FALSE(has_key(HKEY_LOCAL_MACHINE, class_key()));
     }
-    EXPECT_TRUE(same_lines({}, changes()));
+    EXPECT_TRUE(same_lines({}, traces()));
 }
 
 TEST_F(FailingRegistration, WithoutTheRightsChangesNothing) {
     ASSERT_EQ(S_OK, Registrar::of_library().register_it());
-    const ClassesSnapshot registered = classes_snapshot();
+    const ClassesSnapshot before = registered();
     {
         const ReadOnlyKey denied(HKEY_LOCAL_MACHINE, class_key());
         EXPECT_EQ(E_ACCESSDENIED, Registrar::of_library().register_it());
-        EXPECT_TRUE(same_lines({}, difference(registered, classes_snapshot())));
+        EXPECT_TRUE(same_lines({}, difference(before, registered())));
     }
     EXPECT_EQ(S_OK, Registrar::of_library().unregister_it());
-    EXPECT_TRUE(same_lines({}, changes()));
+    EXPECT_TRUE(same_lines({}, traces()));
 }
 
 } // namespace

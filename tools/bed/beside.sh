@@ -19,10 +19,12 @@ wait_bed() {
 }
 
 bed_ready() {
-    local arch
+    local arch root
     for arch in "$@"; do
         [ -d "$(template_folder "$arch")" ] || return 1
-        ! in_root "$arch" || [ -d "$(root_folder "$arch")" ] || return 1
+        while IFS= read -r root; do
+            [ -d "$root" ] || return 1
+        done < <(roots_of "$arch")
     done
 }
 

@@ -46,3 +46,13 @@ in_root() { [ "$1" = x86 ] || next_generation; }
 
 # root_of ARCH - the root its Wine lies in; nothing for the machine's own.
 root_of() { ! in_root "$1" || root_folder "$1"; }
+
+# roots_of ARCH - every root its prefixes are made from, a line each: the next
+# generation's 64-bit prefixes run 32-bit programs too, and take that half from
+# the 32-bit root.
+roots_of() {
+    in_root "$1" || return 0
+    root_folder "$1"
+    echo
+    [ "$1" = x86 ] || { root_folder x86; echo; }
+}

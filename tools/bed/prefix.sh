@@ -8,7 +8,7 @@ PREFIX_MEGABYTES=1000
 # prefix_recipe ARCH - changes whenever the template has to be made anew.
 prefix_recipe() {
     if in_root "$1"; then
-        fingerprint "$PREFIX_REVISION" "$(root_folder "$1")"
+        fingerprint "$PREFIX_REVISION" "$(roots_of "$1")"
     else
         fingerprint "$PREFIX_REVISION" "$(stat -c %Y /usr/lib/wine/wine64 2>/dev/null || true)"
     fi

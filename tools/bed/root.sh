@@ -53,6 +53,7 @@ need_root() {
     in_root "$1" || return 0
     folder=$(root_folder "$1")
     [ -d "$folder" ] || with_bed_lock make_root "$1" "$folder"
+    [ "$1" = x86 ] || need_root x86
 }
 
 make_root() {

@@ -199,6 +199,8 @@ root_arguments() {
     for folder in /usr/share/zoneinfo /usr/share/unicode; do
         [ ! -d "$folder" ] || ROOT_ARGUMENTS+=(--ro-bind "$folder" "$folder")
     done
+    [ "$1" = x86 ] || ROOT_ARGUMENTS+=(--ro-bind "$(root_folder x86)/usr/lib/i386-linux-gnu/wine/i386-windows"
+        /usr/lib/x86_64-linux-gnu/wine/i386-windows)
     if [ -n "${XAUTHORITY:-}" ] && [ -f "$XAUTHORITY" ]; then
         ROOT_ARGUMENTS+=(--ro-bind "$XAUTHORITY" "$XAUTHORITY")
     fi

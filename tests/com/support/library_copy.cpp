@@ -21,6 +21,20 @@ std::wstring temporary_path() {
 
 } // namespace
 
+DWORD run_program(std::wstring command_line) {
+    STARTUPINFOW start = {};
+    start.cb = sizeof start;
+    PROCESS_INFORMATION process = {};
+    EXPECT_TRUE(
+        CreateProcessW(nullptr, command_line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &process));
+    WaitForSingleObject(process.hProcess, INFINITE);
+    DWORD code = 0;
+    GetExitCodeProcess(process.hProcess, &code);
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+    return code;
+}
+
 HRESULT Registrar::install(BOOL on, const wchar_t* command_line) const {
     const auto function = entry<HRESULT(WINAPI*)(BOOL, LPCWSTR)>(module_, "DllInstall");
     return function ? function(on, command_line) : E_NOINTERFACE;

@@ -6,6 +6,9 @@
 
 namespace vellora::test {
 
+/// Runs it to its end. Returns its exit code.
+DWORD run_program(std::wstring command_line);
+
 /// How a library is asked to register itself, or to forget it.
 class Registrar {
 public:

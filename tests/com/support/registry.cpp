@@ -11,11 +11,6 @@ namespace {
 
 constexpr wchar_t classes[] = L"Software\\Classes\\";
 
-std::wstring lower(std::wstring text) {
-    CharLowerBuffW(text.data(), static_cast<DWORD>(text.size()));
-    return text;
-}
-
 void take_values(HKEY key, const std::wstring& path, ClassesSnapshot& snapshot) {
     for (DWORD index = 0;; ++index) {
         wchar_t name[512] = {};
@@ -34,20 +29,14 @@ void take_key(HKEY parent, const std::wstring& name, const std::wstring& path, R
     HKEY key = nullptr;
     if (RegOpenKeyExW(parent, name.c_str(), 0, KEY_READ | view, &key) != ERROR_SUCCESS)
         return;
+    snapshot[path];
     take_values(key, path, snapshot);
     wchar_t child[512] = {};
     for (DWORD index = 0, length = 512;
          RegEnumKeyExW(key, index, child, &length, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
-         ++index, length = 512) {
-        snapshot[path + L"\\" + child];
+         ++index, length = 512)
         take_key(key, child, path + L"\\" + child, view, snapshot);
-    }
     RegCloseKey(key);
-}
-
-bool has_both_bitnesses() {
-    BOOL emulated = FALSE;
-    return sizeof(void*) == 8 || (IsWow64Process(GetCurrentProcess(), &emulated) && emulated);
 }
 
 std::string line(const ClassesSnapshot::value_type& entry) {
@@ -67,34 +56,33 @@ void add_missing(const ClassesSnapshot& from, const ClassesSnapshot& in, const c
 
 ClassesSnapshot classes_snapshot() {
     ClassesSnapshot snapshot;
-    const std::wstring root(classes, std::size(classes) - 2);
-    take_key(HKEY_LOCAL_MACHINE, root, L"machine 32", KEY_WOW64_32KEY, snapshot);
-    take_key(HKEY_CURRENT_USER, root, L"user 32", KEY_WOW64_32KEY, snapshot);
-    if (!has_both_bitnesses())
-        return snapshot;
-    take_key(HKEY_LOCAL_MACHINE, root, L"machine 64", KEY_WOW64_64KEY, snapshot);
-    take_key(HKEY_CURRENT_USER, root, L"user 64", KEY_WOW64_64KEY, snapshot);
+    const std::wstring all(classes, std::size(classes) - 2);
+    // Where both bitnesses are, this view has the other one's classes below a key of their own.
+    take_key(HKEY_LOCAL_MACHINE, all, L"machine", KEY_WOW64_64KEY, snapshot);
+    take_key(HKEY_CURRENT_USER, all, L"user", KEY_WOW64_64KEY, snapshot);
     return snapshot;
+}
+
+ClassesSnapshot snapshot_of(const std::vector<std::wstring>& keys) {
+    ClassesSnapshot snapshot;
+    for (const std::wstring& key : keys) {
+        const std::wstring path = classes + key;
+        take_key(HKEY_LOCAL_MACHINE, path, L"machine 32 " + key, KEY_WOW64_32KEY, snapshot);
+        take_key(HKEY_LOCAL_MACHINE, path, L"machine 64 " + key, KEY_WOW64_64KEY, snapshot);
+        take_key(HKEY_CURRENT_USER, path, L"user 32 " + key, KEY_WOW64_32KEY, snapshot);
+        take_key(HKEY_CURRENT_USER, path, L"user 64 " + key, KEY_WOW64_64KEY, snapshot);
+    }
+    return snapshot;
+}
+
+std::vector<std::string> lines_of(const ClassesSnapshot& snapshot) {
+    return difference({}, snapshot);
 }
 
 std::vector<std::string> difference(const ClassesSnapshot& first, const ClassesSnapshot& second) {
     std::vector<std::string> lines;
     add_missing(first, second, "- ", lines);
     add_missing(second, first, "+ ", lines);
-    return lines;
-}
-
-std::vector<std::string> mentions(const ClassesSnapshot& snapshot, const std::vector<std::wstring>& words) {
-    std::vector<std::string> lines;
-    for (const auto& entry : snapshot) {
-        const std::wstring text = lower(entry.first + L" = " + entry.second);
-        for (const std::wstring& word : words) {
-            if (text.find(lower(word)) == std::wstring::npos)
-                continue;
-            lines.push_back(line(entry));
-            break;
-        }
-    }
     return lines;
 }
 

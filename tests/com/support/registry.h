@@ -8,14 +8,16 @@
 
 namespace vellora::test {
 
-/// Every key and value about classes: of the machine and of the user, as each bitness sees them.
+/// Keys and values below the classes keys of the machine and of the user, by their paths.
 using ClassesSnapshot = std::map<std::wstring, std::wstring>;
+/// All there are: tens of thousands.
 ClassesSnapshot classes_snapshot();
+/// These keys and what is below them, as each bitness sees them.
+ClassesSnapshot snapshot_of(const std::vector<std::wstring>& keys);
 
+std::vector<std::string> lines_of(const ClassesSnapshot& snapshot);
 /// What only one of them has, a line each: "- " when the first has it, "+ " when the second has.
 std::vector<std::string> difference(const ClassesSnapshot& first, const ClassesSnapshot& second);
-/// The lines in which one of the words occurs, in any case.
-std::vector<std::string> mentions(const ClassesSnapshot& snapshot, const std::vector<std::wstring>& words);
 
 std::wstring guid_text(REFGUID id);
 
