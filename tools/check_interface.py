@@ -250,6 +250,14 @@ def example_bytes_are_golden(_: Interface) -> Iterator[str]:
         yield "docs/settings-format.md: the example is not tests/golden/settings-1-example.bin"
 
 
+@check
+def guide_names_the_version(_: Interface) -> Iterator[str]:
+    version = re.search(r"project\(VelloraCTL VERSION ([\d.]+)", (ROOT / "CMakeLists.txt").read_text())[1] + ".0"
+    named = re.findall(r'name="VelloraCTL" version="([\d.]+)"', (ROOT / "docs/installing.md").read_text())
+    if named != [version]:
+        yield f"docs/installing.md names the versions {named} in its manifest where {version} is shipped"
+
+
 def main() -> int:
     interface = idl_model.read(ROOT / "idl/VelloraCTL.idl")
     faults = [f"{one.__name__}: {fault}" for one in CHECKS for fault in one(interface)]
