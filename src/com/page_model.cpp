@@ -88,12 +88,11 @@ void PageModel::change(const PageMember& member, std::int32_t number, Variant va
         changes_[static_cast<std::size_t>(known - changes_.begin())].value = std::move(value);
     else
         changes_.push_back({&member, of, std::move(value)});
-    if (member.id == page_.counted_by)
-        drop_beyond(count());
 }
 
 std::optional<PageModel::Refusal> PageModel::apply() {
     const std::vector<ComPtr<IDispatch>> objects = objects_; // whoever hears of a change may give others
+    drop_uncounted();
     while (!changes_.empty()) {
         Change next = std::move(changes_.front());
         changes_.erase(changes_.begin());
@@ -113,8 +112,10 @@ PageModel::Changes::const_iterator PageModel::find(const PageMember& member, std
     });
 }
 
-void PageModel::drop_beyond(std::int32_t count) {
-    std::erase_if(changes_, [count](const Change& change) { return change.number > count; });
+// Not before they are applied: a number that is being typed is another one, or none at all, after every key.
+void PageModel::drop_uncounted() {
+    if (const std::int32_t last = count(); last > 0)
+        std::erase_if(changes_, [last](const Change& change) { return change.number > last; });
 }
 
 } // namespace vellora::com

@@ -37,6 +37,7 @@ public:
         std::u16string reason;
     };
     /// Gives the changes to all objects, in the order they were made, up to the first one that an object refuses.
+    /// Changes of numbers beyond the count are forgotten.
     std::optional<Refusal> apply();
 
 private:
@@ -49,7 +50,7 @@ private:
     using Changes = std::vector<Change>;
 
     Changes::const_iterator find(const PageMember& member, std::int32_t number) const;
-    void drop_beyond(std::int32_t count);
+    void drop_uncounted();
 
     const PageClass& page_;
     std::vector<ComPtr<IDispatch>> objects_;

@@ -203,6 +203,20 @@ TEST_F(PropertyPageTest, ChangesOfColumnsThatAreTakenAwayGoWithThem) {
     EXPECT_EQ(1, columns);
 }
 
+TEST_F(PropertyPageTest, ChangesOutlastTheTypingOfAnotherNumberOfColumns) {
+    Site& site = design();
+    open(L"Columns", {&site});
+    type(L"Columns", L"3");
+    choose(L"Column", 2);
+    type(L"ColumnHeader", L"Name");
+    for (const wchar_t* typed : {L"", L"1", L"12"})
+        type(L"Columns", typed);
+    EXPECT_EQ(S_OK, page_->Apply());
+    Bstr header;
+    EXPECT_EQ(S_OK, vellora(site)->get_ColumnHeader(3, header.out()));
+    EXPECT_EQ(L"Name", header.text());
+}
+
 TEST_F(PropertyPageTest, ColoursAreWrittenAsFormDesignersWriteThem) {
     Site& site = design();
     open(L"Looks", {&site});
