@@ -149,8 +149,9 @@ void PageField::choose_color() const {
     choice.Flags = CC_RGBINIT | CC_FULLOPEN;
     choice.lpCustColors = own_colors;
     OleTranslateColor(static_cast<OLE_COLOR>(long_in(entered())), nullptr, &choice.rgbResult);
+    const HWND box = box_; // the page may be gone by the time the dialog is closed, and the field with it
     if (ChooseColorW(&choice))
-        SetWindowTextW(box_, wide(color_text(choice.rgbResult).c_str()));
+        SetWindowTextW(box, wide(color_text(choice.rgbResult).c_str()));
 }
 
 } // namespace vellora::com

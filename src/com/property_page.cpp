@@ -126,7 +126,8 @@ STDMETHODIMP PropertyPage::TranslateAccelerator(MSG* message) noexcept {
         const HWND dialog = window_.handle();
         if (!dialog || !IsChild(dialog, message->hwnd))
             return S_FALSE;
-        if (leaves_page(*message) && site_ && site_->TranslateAccelerator(message) == S_OK)
+        const ComPtr<IPropertyPageSite> site = site_;
+        if (leaves_page(*message) && site && site->TranslateAccelerator(message) == S_OK)
             return S_OK;
         return IsDialogMessageW(dialog, message) ? S_OK : S_FALSE;
     });
@@ -151,8 +152,9 @@ STDMETHODIMP PropertyPage::EditProperty(DISPID property) noexcept {
 }
 
 void PropertyPage::page_changed() {
-    if (site_)
-        site_->OnStatusChange(PROPPAGESTATUS_DIRTY);
+    // The property window may take its site away meanwhile.
+    if (const ComPtr<IPropertyPageSite> site = site_)
+        site->OnStatusChange(PROPPAGESTATUS_DIRTY);
 }
 
 } // namespace vellora::com
