@@ -27,8 +27,8 @@ constexpr DWORD page_style = DS_SHELLFONT | DS_CONTROL | WS_CHILD;
 // Never shown: its font tells how large dialog units are.
 constexpr DWORD measuring_style = DS_SHELLFONT | WS_POPUP;
 
-/// A dialog without items, in the form the platform reads from a resource.
-struct EmptyDialog {
+/// A dialog without items, in the form the platform reads from a resource, where each begins at a whole DWORD.
+struct alignas(DWORD) EmptyDialog {
     explicit constexpr EmptyDialog(DWORD style) : head{style, WS_EX_CONTROLPARENT, 0, 0, 0, 0, 0} {}
 
     DLGTEMPLATE head;
