@@ -60,10 +60,10 @@ std::u16string window_text(HWND window) {
 
 /// The value as the box shows it; a value that has no text is empty.
 std::u16string shown_text(const Variant& value, PageEntry entry) {
+    // Colours of the system are negative numbers here, which not every platform converts to unsigned ones.
+    if (entry == PageEntry::color && value.type() == VT_I4)
+        return color_text(static_cast<std::uint32_t>(V_I4(&value.get())));
     Variant converted_value;
-    if (entry == PageEntry::color && value.type() != VT_BSTR &&
-        SUCCEEDED(convert(value.get(), VT_UI4, converted_value)))
-        return color_text(V_UI4(&converted_value.get()));
     if (FAILED(convert(value.get(), VT_BSTR, converted_value)))
         return {};
     return std::u16string(bstr_view(V_BSTR(&converted_value.get())));

@@ -22,7 +22,7 @@ struct PageMember {
     std::vector<Choice> choices;
 };
 
-/// A colour as VB-style property lists write it: "&H80000005&".
+/// A colour as form designers write it: "&H80000005&".
 std::u16string color_text(std::uint32_t color);
 /// That, or a decimal number; what is neither is left for the property to refuse.
 Variant color_value(const std::u16string& text);
