@@ -127,10 +127,23 @@ STDMETHODIMP PropertyPage::TranslateAccelerator(MSG* message) noexcept {
         if (!dialog || !IsChild(dialog, message->hwnd))
             return S_FALSE;
         const ComPtr<IPropertyPageSite> site = site_;
-        if (leaves_page(*message) && site && site->TranslateAccelerator(message) == S_OK)
+        const bool ends = ends_window(*message);
+        if ((ends || leaves_page(*message)) && site && site->TranslateAccelerator(message) == S_OK)
             return S_OK;
-        return IsDialogMessageW(dialog, message) ? S_OK : S_FALSE;
+        return !ends && IsDialogMessageW(dialog, message) ? S_OK : S_FALSE;
     });
+}
+
+/// Enter and Esc are for OK and Cancel of the property window, which a dialog within it would keep from them; a button
+/// and an open list of values have a use of their own for them.
+bool PropertyPage::ends_window(MSG& message) const {
+    const bool enter = message.wParam == VK_RETURN;
+    if (message.message != WM_KEYDOWN || (!enter && message.wParam != VK_ESCAPE))
+        return false;
+    const LRESULT kind =
+        SendMessageW(message.hwnd, WM_GETDLGCODE, message.wParam, reinterpret_cast<LPARAM>(&message));
+    constexpr LRESULT button = DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON;
+    return (kind & (enter ? DLGC_WANTMESSAGE | button : DLGC_WANTMESSAGE)) == 0;
 }
 
 /// Tab on the last field, and Shift+Tab on the first, go on among the buttons of the property window.

@@ -35,6 +35,7 @@ private:
     ~PropertyPage() = default;
 
     void page_changed() override;
+    bool ends_window(MSG& message) const;
     bool leaves_page(const MSG& message) const;
 
     LiveObject alive_;

@@ -286,6 +286,25 @@ TEST_F(PropertyPageTest, TabLeavesItBehindTheLastFieldOnly) {
     EXPECT_EQ(S_FALSE, page_->TranslateAccelerator(&tab));
 }
 
+TEST_F(PropertyPageTest, EnterAndEscAreForThePropertyWindow) {
+    open(L"List", {&design()});
+    const auto press = [this](WPARAM key) {
+        MSG message = {GetFocus(), WM_KEYDOWN, key, 1, 0, {}};
+        return page_->TranslateAccelerator(&message);
+    };
+    const HWND combo = box(L"SortOrder");
+    SetFocus(combo);
+    EXPECT_EQ(S_OK, press(VK_RETURN));
+    EXPECT_EQ(S_OK, press(VK_ESCAPE));
+    EXPECT_EQ(2, page_site_->keys);
+    SendMessageW(combo, CB_SHOWDROPDOWN, TRUE, 0);
+    EXPECT_EQ(S_OK, press(VK_ESCAPE));
+    EXPECT_EQ(FALSE, SendMessageW(combo, CB_GETDROPPEDSTATE, 0, 0));
+    EXPECT_EQ(2, page_site_->keys);
+    page_->SetPageSite(nullptr);
+    EXPECT_EQ(S_FALSE, press(VK_RETURN));
+}
+
 TEST_F(PropertyPageTest, EditingAPropertyPutsTheFocusThere) {
     open(L"Columns", {&design()});
     EXPECT_EQ(S_OK, page_->EditProperty(dispatch_id(design().as<IDispatch>().Get(), L"ColumnHeader")));
