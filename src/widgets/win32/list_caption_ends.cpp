@@ -38,9 +38,10 @@ std::optional<LRESULT> ListCaptionEnds::answer(const WindowMessage& message) {
     const LRESULT result = window_.native(message);
     const auto& drawing = *reinterpret_cast<const NMCUSTOMDRAW*>(header);
     note(drawing);
-    if (drawing.dwDrawStage == CDDS_POSTPAINT)
-        complete(drawing);
-    return drawing.dwDrawStage == CDDS_PREPAINT ? result | CDRF_NOTIFYITEMDRAW | CDRF_NOTIFYPOSTPAINT : result;
+    if (drawing.dwDrawStage != CDDS_POSTPAINT)
+        return drawing.dwDrawStage == CDDS_PREPAINT ? result | CDRF_NOTIFYITEMDRAW | CDRF_NOTIFYPOSTPAINT : result;
+    complete(drawing);
+    return CDRF_SKIPDEFAULT;
 }
 
 void ListCaptionEnds::note(const NMCUSTOMDRAW& drawing) {

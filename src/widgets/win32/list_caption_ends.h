@@ -17,7 +17,9 @@ public:
     ListCaptionEnds(const ListWindow& window, const ListHeaders& headers, const ListColumnWidths& widths)
         : window_(window), headers_(headers), widths_(widths) {}
 
-    /// The answer to what the header tells about its painting; nothing for any other message.
+    /// The answer to what the header tells about its painting; nothing for any other message. It is never 0 for a
+    /// header that has painted: whoever watches the list hands on again what is answered by 0, and what is drawn twice
+    /// is darker, or gone.
     std::optional<LRESULT> answer(const WindowMessage& message);
 
 private:

@@ -33,12 +33,10 @@ void ListHeaderMark::bring_into_view() const {
         SendMessageW(window_.handle(), LVM_SCROLL, static_cast<WPARAM>(scroll), 0);
 }
 
-bool ListHeaderMark::draw_over(const WindowMessage& message) const {
+void ListHeaderMark::draw_over(const WindowMessage& message) const {
     const auto* const drawing = structure_at<const NMCUSTOMDRAW>(message.lparam);
-    if (column_ < 0 || !drawing || drawing->dwDrawStage != CDDS_POSTPAINT)
-        return false;
-    draw(drawing->hdc);
-    return true;
+    if (column_ >= 0 && drawing && drawing->dwDrawStage == CDDS_POSTPAINT)
+        draw(drawing->hdc);
 }
 
 void ListHeaderMark::draw(HDC dc) const {

@@ -13,9 +13,8 @@ public:
     int column() const { return column_; }
     /// Scrolls the header into view.
     void put(int column);
-    /// Draws the rectangle over a header that tells it has painted; true when it did. Such a message must then not be
-    /// handed on: whoever watches the list hands it on twice, and two rectangles show none.
-    bool draw_over(const WindowMessage& message) const;
+    /// Draws the rectangle over a header that tells it has painted. Once only: two rectangles show none.
+    void draw_over(const WindowMessage& message) const;
 
 private:
     RECT header_rect() const;

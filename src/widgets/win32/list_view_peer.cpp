@@ -74,8 +74,10 @@ std::optional<LRESULT> ListViewPeer::answer(const WindowMessage& message) {
         return text;
     if (const auto item = item_messages_.answer(message))
         return item;
-    if (const auto drawn = caption_ends_.answer(message))
-        return header_mark_.draw_over(message) ? CDRF_SKIPDEFAULT : drawn;
+    if (const auto drawn = caption_ends_.answer(message)) {
+        header_mark_.draw_over(message);
+        return drawn;
+    }
     return column_messages_.answer(message);
 }
 
