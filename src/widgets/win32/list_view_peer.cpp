@@ -195,6 +195,8 @@ std::int32_t ListViewPeer::marked_header() const {
 }
 
 void ListViewPeer::mark_header(std::int32_t column) {
+    if (column == 0 && header_mark_.column() < 0)
+        return;
     header_mark_.put(column - 1);
     if (column == 0)
         mirror_.announce_focus();
