@@ -42,6 +42,9 @@ void ListHeaderMark::draw_over(const WindowMessage& message) const {
 void ListHeaderMark::draw(HDC dc) const {
     RECT rect = header_rect();
     InflateRect(&rect, -GetSystemMetrics(SM_CXEDGE), -GetSystemMetrics(SM_CYEDGE));
+    // A column that was made too narrow for it, or is gone.
+    if (IsRectEmpty(&rect))
+        return;
     // The dots are between these two.
     SetTextColor(dc, RGB(0, 0, 0));
     SetBkColor(dc, RGB(255, 255, 255));
