@@ -65,10 +65,8 @@ STDMETHODIMP PropertyPage::Deactivate() noexcept {
 STDMETHODIMP PropertyPage::GetPageInfo(PROPPAGEINFO* info) noexcept {
     return guard([&] {
         need(info);
-        if (info->cb < sizeof *info)
-            throw ComFailure(E_INVALIDARG);
         const SIZE size = PageWindow::size(model_.page());
-        *info = {info->cb, make_task_text(narrow_view(model_.page().title)), size, nullptr, nullptr, 0};
+        *info = {sizeof *info, make_task_text(narrow_view(model_.page().title)), size, nullptr, nullptr, 0};
     });
 }
 
