@@ -132,12 +132,16 @@ void DropDown::subShowListView() {
         return;
     }
     form_watch_.watch(core_.site.form_window());
+    // Before the event: while a handler takes its time, the container has to know already whose keys they are.
+    core_.surface.announce(Announcement::list_opened_or_closed);
+    if (core_.state.mlStatic_hWnd != floating) {
+        return;
+    }
     opening_reported_ = true;
     core_.events.drop_down(DropDownState::open);
     // The handler may have closed this list again, or even opened another one.
     if (core_.state.mlStatic_hWnd == floating) {
         gbListOpen = true;
-        core_.surface.announce(Announcement::list_opened_or_closed);
     }
 }
 

@@ -53,6 +53,20 @@ TEST_F(TextFieldKeys, KeysWithControlOrAltAreTheHostsFirst) {
     EXPECT_EQ(S_FALSE, translate(VK_DOWN, WM_SYSKEYDOWN));
 }
 
+TEST_F(TextFieldKeys, TheContainerKnowsOfThemBeforeAHandlerTakesItsTime) {
+    site().log().take();
+    bool told = false;
+    DWORD eaten = 0;
+    site().events().on("DropDown", [&](EventArguments&) {
+        told = site().log().contains("IOleControlSite::OnControlInfoChanged");
+        eaten = eaten_keys();
+    });
+    open();
+    site().events().on("DropDown", {});
+    EXPECT_TRUE(told);
+    EXPECT_EQ(return_and_escape, eaten);
+}
+
 TEST_F(TextFieldKeys, EnterAndEscapeAreEatenWhileTheListIsOpen) {
     EXPECT_EQ(0U, eaten_keys());
     open();
