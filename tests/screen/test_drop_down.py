@@ -1,9 +1,6 @@
 """The drop-down list under a real mouse and real keys."""
 from support.bed import ScreenTest, click, move, xdotool
-
-OPENED = "Vellora1.DropDown(I4 0)"
-CLOSED = "Vellora1.DropDown(I4 1)"
-CLICKED = "Vellora1.Click()"
+from support.lists import CLICKED, CLOSED, OPENED
 
 
 class ListTest(ScreenTest):
