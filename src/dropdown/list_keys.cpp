@@ -26,9 +26,12 @@ int direction_of(std::int16_t key, std::int16_t back, std::int16_t forth) {
 } // namespace
 
 void ListKeys::list_key_down(std::int16_t& key_code, std::int16_t shift) {
-    taken_ = core_.state.mlStatic_hWnd != 0 && take(key_code, shift);
-    if (taken_) {
+    // Before anything is done: a handler that lets messages run lets the key's character arrive meanwhile.
+    taken_ = true;
+    if (core_.state.mlStatic_hWnd != 0 && take(key_code, shift)) {
         key_code = 0;
+    } else {
+        taken_ = false;
     }
 }
 

@@ -156,6 +156,20 @@ TEST(ListKeys, TheCharacterOfAKeyTakenFindsNoRow) {
     EXPECT_EQ(letter, u'b');
 }
 
+TEST(ListKeys, TheCharacterMayArriveWhileAHandlerTakesItsTime) {
+    ThreeColumns combo;
+    combo.in_headers();
+    std::int16_t down = key::enter;
+    std::int16_t character = key::enter;
+    combo.events.on_column_click = [&](std::int16_t) { combo.list_view.listener()->list_key_press(character); };
+    combo.list_view.listener()->list_key_down(down, 0);
+    combo.events.on_column_click = nullptr;
+    EXPECT_EQ(down, 0);
+    EXPECT_EQ(character, 0);
+    EXPECT_TRUE(combo.is_open());
+    EXPECT_EQ(combo.journal().take_events(), Lines{"ColumnClick(1)"});
+}
+
 TEST(ListKeys, ShiftAndArrowsSizeTheColumn) {
     ThreeColumns combo;
     combo.in_headers();
