@@ -78,7 +78,7 @@ void forget_type_library(Scope scope) {
     // The platform learns from the registered file which interfaces to forget, and that file may be gone.
     register_type_library(scope);
     const Module& own = module();
-    // Who may register may unregister; the class goes in any case.
+    // Who may register may unregister.
     if (scope == Scope::user)
         UnRegisterTypeLibForUser(own.type_library, own.major, own.minor, LOCALE_NEUTRAL, own_kind);
     else
@@ -121,6 +121,16 @@ void remove_program_ids(Scope scope) {
     remove(scope, module().versioned_program_id);
 }
 
+void remove_class(Scope scope) {
+    remove(scope, class_key());
+    for (const std::wstring& key : page_keys())
+        remove(scope, key);
+    // For a user it may have been the only class; a key with others in it stays.
+    RegDeleteKeyW(root_of(scope), classes(L"CLSID").c_str());
+    if (!other_bitness_registered(scope))
+        remove_program_ids(scope);
+}
+
 void write_everything(Scope scope) {
     for (const RegistryEntry& entry : class_entries())
         write(scope, entry);
@@ -145,16 +155,10 @@ void register_server(Scope scope) {
 }
 
 void unregister_server(Scope scope) {
+    // The class first: it goes also where the platform does not let go of the type library.
+    if (!class_belongs_to_another(scope))
+        remove_class(scope);
     unregister_type_library(scope);
-    if (class_belongs_to_another(scope))
-        return;
-    remove(scope, class_key());
-    for (const std::wstring& key : page_keys())
-        remove(scope, key);
-    // For a user it may have been the only class; a key with others in it stays.
-    RegDeleteKeyW(root_of(scope), classes(L"CLSID").c_str());
-    if (!other_bitness_registered(scope))
-        remove_program_ids(scope);
 }
 
 } // namespace vellora::server
