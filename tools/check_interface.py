@@ -258,6 +258,21 @@ def guide_names_the_version(_: Interface) -> Iterator[str]:
         yield f"docs/installing.md names the versions {named} in its manifest where {version} is shipped"
 
 
+# ---- The property pages ----------------------------------------------------------------------------------------------
+
+
+@check
+def pages_show_what_they_say(interface: Interface) -> Iterator[str]:
+    setters = {accessor.id: accessor.name for accessor in interface.accessors if accessor.kind == "propput"}
+    text = (SERVER / "property_pages.cpp").read_text(encoding="utf-8")
+    shown = re.findall(r"^ *(\d+), +// (\w+)$", text, re.MULTILINE)
+    if not shown:
+        yield "no property is on any page"
+    for identifier, name in shown:
+        if setters.get(int(identifier)) != name:
+            yield f"{identifier} is {setters.get(int(identifier), 'nothing that can be written')}, not {name}"
+
+
 def main() -> int:
     interface = idl_model.read(ROOT / "idl/VelloraCTL.idl")
     faults = [f"{one.__name__}: {fault}" for one in CHECKS for fault in one(interface)]
