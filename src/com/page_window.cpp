@@ -178,6 +178,9 @@ void PageWindow::on_command(int id, int notification) {
 }
 
 void PageWindow::on_change(const PageField& field) {
+    // While there is nothing to count, a value would be that of nothing, and be refused for ever.
+    if (field.member().numbered && chosen_number() == 0)
+        return;
     model_.change(field.member(), chosen_number(), field.entered());
     if (field.member().id == model_.page().counted_by) {
         const RaisedFlag silent(loading_);

@@ -217,6 +217,18 @@ TEST_F(PropertyPageTest, ChangesOutlastTheTypingOfAnotherNumberOfColumns) {
     EXPECT_EQ(L"Name", header.text());
 }
 
+TEST_F(PropertyPageTest, WhereNoColumnIsChosenNoneIsChanged) {
+    Site& site = design();
+    open(L"Columns", {&site});
+    type(L"Columns", L"");
+    type(L"ColumnHeader", L"nowhere");
+    type(L"Columns", L"2");
+    EXPECT_EQ(S_OK, page_->Apply());
+    Bstr header;
+    EXPECT_EQ(S_OK, vellora(site)->get_ColumnHeader(1, header.out()));
+    EXPECT_EQ(L"", header.text());
+}
+
 TEST_F(PropertyPageTest, ColoursAreWrittenAsFormDesignersWriteThem) {
     Site& site = design();
     open(L"Looks", {&site});
