@@ -1,16 +1,25 @@
 #include "server/file_identity.h"
 
+#include <memory>
+
 namespace vellora::server {
 
+namespace {
+
+struct FileCloser {
+    void operator()(HANDLE file) const noexcept { CloseHandle(file); }
+};
+
+} // namespace
+
 std::optional<FileIdentity> identity_of(const std::wstring& path) noexcept {
-    const HANDLE file = CreateFileW(path.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                    OPEN_EXISTING, 0, nullptr);
-    if (file == INVALID_HANDLE_VALUE)
+    const HANDLE opened = CreateFileW(path.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                      OPEN_EXISTING, 0, nullptr);
+    if (opened == INVALID_HANDLE_VALUE)
         return {};
+    const std::unique_ptr<void, FileCloser> file(opened);
     BY_HANDLE_FILE_INFORMATION found = {};
-    const bool known = GetFileInformationByHandle(file, &found) != FALSE;
-    CloseHandle(file);
-    if (!known)
+    if (!GetFileInformationByHandle(file.get(), &found))
         return {};
     return FileIdentity(found.dwVolumeSerialNumber, found.nFileIndexHigh, found.nFileIndexLow);
 }
