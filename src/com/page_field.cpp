@@ -1,6 +1,7 @@
 #include "com/page_field.h"
 
 #include "com/bstr.h"
+#include "com/live_object.h"
 
 #include <algorithm>
 
@@ -142,6 +143,7 @@ bool PageField::is_change(int notification) const noexcept {
 }
 
 void PageField::choose_color() const {
+    const LiveObject alive; // the page may be released while the dialog stands
     static COLORREF own_colors[16] = {}; // the user's, for as long as the library is loaded
     CHOOSECOLORW choice = {};
     choice.lStructSize = sizeof choice;

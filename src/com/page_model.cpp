@@ -41,7 +41,7 @@ std::optional<std::u16string> refusal(IDispatch* object, const PageMember& membe
         write(object, member, number, value);
         return std::nullopt;
     } catch (const HostError& error) {
-        return error.description();
+        return error.description().empty() ? standard_description(error.number()) : error.description();
     } catch (const ComFailure& failure) {
         return standard_description(failure.result() == DISP_E_OVERFLOW ? error_number::overflow
                                                                         : error_number::type_mismatch);

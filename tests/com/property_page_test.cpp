@@ -355,6 +355,46 @@ TEST_F(PropertyPageTest, IsFoundFromAPropertyThatHasANumber) {
               browsing->MapPropertyToPage(dispatch_id(site.as<IDispatch>().Get(), L"Locked"), &page));
 }
 
+/// Every page by its title.
+class EveryPropertyPageTest : public PropertyPageTest, public testing::WithParamInterface<const wchar_t*> {
+protected:
+    /// Gives the box the value it has already.
+    void enter_again(HWND box) {
+        wchar_t name[16] = {};
+        GetClassNameW(box, name, 16);
+        if (std::wstring(name) == L"Edit") {
+            SetWindowTextW(box, text_of(box).c_str());
+        } else if (std::wstring(name) == L"ComboBox") {
+            notify(box, CBN_SELCHANGE);
+        } else if (text_of(box) != L"...") {
+            SendMessageW(box, BM_CLICK, 0, 0);
+            SendMessageW(box, BM_CLICK, 0, 0);
+        }
+    }
+};
+
+TEST_P(EveryPropertyPageTest, TakesEachValueItShows) {
+    Site& site = design();
+    open(GetParam(), {&site});
+    std::vector<std::wstring> shown;
+    for (HWND child = GetWindow(dialog_, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+        shown.push_back(text_of(child));
+        if ((GetWindowLongPtrW(child, GWL_STYLE) & WS_TABSTOP) != 0)
+            enter_again(child);
+    }
+    EXPECT_EQ(S_OK, page_->IsPageDirty());
+    EXPECT_EQ(S_OK, page_->Apply());
+    IUnknown* object = site.as<IDispatch>().Get();
+    EXPECT_EQ(S_OK, page_->SetObjects(1, &object));
+    for (HWND child = GetWindow(dialog_, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+        EXPECT_EQ(shown.front(), text_of(child));
+        shown.erase(shown.begin());
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(OfThe, EveryPropertyPageTest, testing::Values(L"Field", L"List", L"Columns", L"Looks"),
+                         [](const auto& title) { return utf8(title.param); });
+
 TEST_F(PropertyPageTest, TheFormMayLoseTheControlWhileItIsOpen) {
     Site& site = design();
     open(L"Field", {&site});

@@ -53,7 +53,7 @@ void ListCaptionEnds::note(const NMCUSTOMDRAW& drawing) {
 
 void ListCaptionEnds::complete(const NMCUSTOMDRAW& drawing) const {
     const auto font = reinterpret_cast<HFONT>(SendMessageW(window_.header(), WM_GETFONT, 0, 0));
-    const TextMeasure measure(font);
+    const TextMeasure measure = widths_.text_measure();
     const SavedDc saved(drawing.hdc);
     SelectObject(drawing.hdc, font);
     for (std::int32_t column = 0; column < headers_.count(); ++column)

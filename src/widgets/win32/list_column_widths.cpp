@@ -1,7 +1,5 @@
 #include "widgets/win32/list_column_widths.h"
 
-#include "widgets/win32/text_measure.h"
-
 #include <algorithm>
 #include <exception>
 
@@ -42,13 +40,21 @@ void ListColumnWidths::keep_up() noexcept {
     }
 }
 
-HFONT ListColumnWidths::font() const {
-    return reinterpret_cast<HFONT>(window_.native(WM_GETFONT));
+TextMeasure ListColumnWidths::text_measure() const {
+    const auto font = reinterpret_cast<HFONT>(window_.native(WM_GETFONT));
+    if (!font_drawn_wider_)
+        font_drawn_wider_ = is_drawn_wider(font);
+    return {font, *font_drawn_wider_};
+}
+
+void ListColumnWidths::font_changed() {
+    measure_.invalidate();
+    font_drawn_wider_.reset();
 }
 
 int ListColumnWidths::for_content(std::int32_t column) {
     const bool boxes = column == 0 && window_.has_extended_style(LVS_EX_CHECKBOXES);
-    const TextMeasure measurer(font());
+    const TextMeasure measurer = text_measure();
     return measure_.widest(column, measurer) + text_margins + (boxes ? GetSystemMetrics(SM_CXSMICON) : 0);
 }
 
@@ -58,7 +64,7 @@ int ListColumnWidths::for_content_and_header(std::int32_t column) {
 }
 
 int ListColumnWidths::for_caption(std::int32_t column) const {
-    const TextMeasure measurer(font());
+    const TextMeasure measurer = text_measure();
     return measurer.width(headers_.text(column)) + caption_margins() + icon_width(column);
 }
 

@@ -4,6 +4,9 @@
 
 #include "widgets/column_measure.h"
 #include "widgets/win32/list_headers.h"
+#include "widgets/win32/text_measure.h"
+
+#include <optional>
 
 namespace vellora::win32 {
 
@@ -20,12 +23,13 @@ public:
     int for_content_and_header(std::int32_t column);
     /// What the icon of a header takes beside the caption; 0 without one.
     int icon_width(std::int32_t column) const;
+    /// Measures in the list's font.
+    TextMeasure text_measure() const;
     /// To be called when the list has another font.
-    void font_changed() { measure_.invalidate(); }
+    void font_changed();
 
 private:
     void keep_up() noexcept;
-    HFONT font() const;
     int for_caption(std::int32_t column) const;
     int left_over(std::int32_t column) const;
 
@@ -33,6 +37,7 @@ private:
     const ListHeaders& headers_;
     ListRows& rows_;
     ColumnMeasure measure_;
+    mutable std::optional<bool> font_drawn_wider_; // found out when it is asked for
 };
 
 } // namespace vellora::win32

@@ -65,11 +65,29 @@ private:
     HGDIOBJ former_ = nullptr;
 };
 
+bool draws_wider(HDC dc, std::u16string_view text) {
+    SIZE size{};
+    const auto length = static_cast<int>(text.size());
+    GetTextExtentPoint32W(dc, wide(text.data()), length, &size);
+    if (size.cy > tallest_sampled)
+        return false;
+    const Paper paper(dc, {2 * size.cx, size.cy});
+    TextOutW(dc, 0, 0, wide(text.data()), length);
+    return paper.is_marked_right_of(size.cx);
+}
+
 } // namespace
 
-TextMeasure::TextMeasure(HFONT font)
+bool is_drawn_wider(HFONT font) {
+    const UniqueMemoryDc dc(CreateCompatibleDC(nullptr));
+    const SavedDc saved(dc.get());
+    SelectObject(dc.get(), usable(font));
+    return std::any_of(samples.begin(), samples.end(), [&](auto text) { return draws_wider(dc.get(), text); });
+}
+
+TextMeasure::TextMeasure(HFONT font, bool drawn_wider)
     : dc_(CreateCompatibleDC(nullptr)), former_font_(SelectObject(dc_.get(), usable(font))) {
-    if (std::any_of(samples.begin(), samples.end(), [this](auto text) { return draws_wider_than(text); }))
+    if (drawn_wider)
         surplus_.assign(number_of_units, unknown_surplus);
 }
 
@@ -95,17 +113,6 @@ std::int32_t TextMeasure::extent(std::u16string_view text) const {
     const auto length = static_cast<int>(std::min(text.size(), longest_measured));
     GetTextExtentPoint32W(dc_.get(), wide(text.data()), length, &extent);
     return extent.cx;
-}
-
-bool TextMeasure::draws_wider_than(std::u16string_view text) const {
-    SIZE size{};
-    const auto length = static_cast<int>(text.size());
-    GetTextExtentPoint32W(dc_.get(), wide(text.data()), length, &size);
-    if (size.cy > tallest_sampled)
-        return false;
-    const Paper paper(dc_.get(), {2 * size.cx, size.cy});
-    TextOutW(dc_.get(), 0, 0, wide(text.data()), length);
-    return paper.is_marked_right_of(size.cx);
 }
 
 std::int32_t TextMeasure::surplus(char16_t unit) const {
