@@ -1,6 +1,6 @@
 #include "coordinates.h"
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 namespace {
 
@@ -40,4 +40,4 @@ std::optional<std::wstring> readable_coordinates(std::string_view iso_6709) {
     return *latitude + L"  " + *longitude;
 }
 
-} // namespace vellora::demo
+} // namespace vellora::samples

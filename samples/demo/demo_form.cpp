@@ -1,9 +1,9 @@
 #include "demo_form.h"
 
-#include "child_window.h"
-#include "failure.h"
+#include "hosting/child_window.h"
+#include "hosting/failure.h"
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 namespace {
 
@@ -60,6 +60,7 @@ void DemoForm::create_window() {
                         CW_USEDEFAULT, size.cx, size.cy, nullptr, nullptr, form.hInstance, this);
     if (!window_)
         throw Failure(L"The form's window cannot be made.");
+    focus_.emplace(window_);
 }
 
 void DemoForm::create_boxes() {
@@ -153,7 +154,7 @@ LRESULT DemoForm::handle(UINT message, WPARAM wparam, LPARAM lparam) {
         on_activated(LOWORD(wparam) != WA_INACTIVE);
         break;
     case WM_SETFOCUS:
-        give_focus_back();
+        focus_->give_back();
         return 0;
     case WM_COMMAND:
         on_notified(LOWORD(wparam), HIWORD(wparam));
@@ -189,15 +190,8 @@ void DemoForm::lay_out() {
 }
 
 void DemoForm::on_activated(bool active) {
-    if (!active && IsChild(window_, GetFocus()))
-        last_focus_ = GetFocus();
+    focus_->form_activated(active);
     frame_->form_activated(active);
-}
-
-// A form has no use for the focus: the child that had it before gets it back.
-void DemoForm::give_focus_back() const {
-    const bool possible = IsChild(window_, last_focus_) && IsWindowVisible(last_focus_);
-    SetFocus(possible ? last_focus_ : GetNextDlgTabItem(window_, nullptr, FALSE));
 }
 
 // The focus went to a window that is no control, which nobody else tells the control in use.
@@ -229,4 +223,4 @@ void DemoForm::release_controls() {
     boxes_.clear();
 }
 
-} // namespace vellora::demo
+} // namespace vellora::samples

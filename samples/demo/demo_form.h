@@ -3,16 +3,18 @@
 #pragma once
 
 #include "event_log.h"
-#include "form_font.h"
-#include "form_frame.h"
+#include "hosting/form_focus.h"
+#include "hosting/form_font.h"
+#include "hosting/form_frame.h"
 #include "line_file.h"
 #include "vellora_box.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 class DemoForm {
 public:
@@ -48,7 +50,6 @@ private:
 
     void lay_out();
     void on_activated(bool active);
-    void give_focus_back() const;
     void on_notified(int child_id, int notice) const;
     void on_event(const VelloraBox& box, const Event& event);
     void show_choice(const VelloraBox& box) const;
@@ -58,7 +59,7 @@ private:
     LineFile& watcher_;
     FormFont font_;
     HWND window_ = nullptr;
-    HWND last_focus_ = nullptr;
+    std::optional<FormFocus> focus_;
     bool looks_active_ = false;
     Microsoft::WRL::ComPtr<FormFrame> frame_;
     Boxes boxes_;
@@ -69,4 +70,4 @@ private:
     HWND status_ = nullptr;
 };
 
-} // namespace vellora::demo
+} // namespace vellora::samples

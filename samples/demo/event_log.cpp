@@ -1,8 +1,8 @@
 #include "event_log.h"
 
-#include "child_window.h"
+#include "hosting/child_window.h"
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 namespace {
 
@@ -38,4 +38,4 @@ int EventLog::line_count() const {
     return static_cast<int>(SendMessageW(window_, LB_GETCOUNT, 0, 0));
 }
 
-} // namespace vellora::demo
+} // namespace vellora::samples

@@ -1,12 +1,12 @@
 // The log of events at the bottom of the form: the newest line is the last one and always in sight.
 #pragma once
 
-#include "event_sink.h"
+#include "hosting/event_sink.h"
 
 #include <string>
 #include <windows.h>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 class EventLog {
 public:
@@ -25,4 +25,4 @@ private:
     std::wstring moving_over_; // the box whose mouse movement is the last line
 };
 
-} // namespace vellora::demo
+} // namespace vellora::samples

@@ -1,8 +1,8 @@
 #include "form_layout.h"
 
-#include "screen.h"
+#include "hosting/screen.h"
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 namespace {
 
@@ -41,4 +41,4 @@ SIZE smallest_client() {
     return {scaled(520), scaled(360)};
 }
 
-} // namespace vellora::demo
+} // namespace vellora::samples

@@ -4,7 +4,7 @@
 #include <vector>
 #include <windows.h>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 struct FormLayout {
     struct Cell {
@@ -31,4 +31,4 @@ struct FormLayout {
 SIZE usual_client();
 SIZE smallest_client();
 
-} // namespace vellora::demo
+} // namespace vellora::samples

@@ -1,9 +1,9 @@
 #include "line_file.h"
 
-#include "environment.h"
-#include "failure.h"
+#include "hosting/environment.h"
+#include "hosting/failure.h"
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 namespace {
 
@@ -45,4 +45,4 @@ void LineFile::write(std::initializer_list<std::wstring_view> fields) {
     WriteFile(file_, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
 }
 
-} // namespace vellora::demo
+} // namespace vellora::samples

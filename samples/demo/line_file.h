@@ -6,7 +6,7 @@
 #include <string_view>
 #include <windows.h>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 class LineFile {
 public:
@@ -25,4 +25,4 @@ private:
     HANDLE file_ = INVALID_HANDLE_VALUE;
 };
 
-} // namespace vellora::demo
+} // namespace vellora::samples

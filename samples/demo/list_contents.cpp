@@ -1,12 +1,12 @@
 #include "list_contents.h"
 
-#include "bstr.h"
-#include "failure.h"
-#include "text_array.h"
+#include "hosting/bstr.h"
+#include "hosting/failure.h"
+#include "hosting/text_array.h"
 
 #include <algorithm>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 namespace {
 
@@ -139,4 +139,4 @@ const std::vector<BoxDefinition>& box_definitions() {
     return definitions;
 }
 
-} // namespace vellora::demo
+} // namespace vellora::samples

@@ -3,11 +3,11 @@
 #pragma once
 
 #include "list_data.h"
-#include "saved_settings.h"
+#include "hosting/saved_settings.h"
 
 #include <VelloraCTL.h>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 struct BoxDefinition {
     const wchar_t* name;
@@ -22,4 +22,4 @@ struct BoxDefinition {
 /// In the order of the form: left, right, next row.
 const std::vector<BoxDefinition>& box_definitions();
 
-} // namespace vellora::demo
+} // namespace vellora::samples

@@ -1,10 +1,10 @@
 #include "list_data.h"
 
-#include "failure.h"
+#include "hosting/failure.h"
 #include "time_zones.h"
 #include "unicode_characters.h"
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 ListData read_list_data(const std::function<void(const std::wstring&)>& complain) {
     const auto read = [&](TextRows (*source)()) {
@@ -18,4 +18,4 @@ ListData read_list_data(const std::function<void(const std::wstring&)>& complain
     return {read(read_time_zones), read(read_unicode_characters)};
 }
 
-} // namespace vellora::demo
+} // namespace vellora::samples

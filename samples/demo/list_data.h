@@ -1,12 +1,12 @@
 // The rows that come from files.
 #pragma once
 
-#include "text_rows.h"
+#include "hosting/text_rows.h"
 
 #include <functional>
 #include <string>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 struct ListData {
     TextRows time_zones;
@@ -16,4 +16,4 @@ struct ListData {
 /// What cannot be read stays empty; `complain` is told why.
 ListData read_list_data(const std::function<void(const std::wstring& problem)>& complain);
 
-} // namespace vellora::demo
+} // namespace vellora::samples

@@ -6,7 +6,7 @@
 // With --log the events and what is to be seen on the form also go into a file, for a program that plays the
 // user.
 #include "demo_form.h"
-#include "failure.h"
+#include "hosting/failure.h"
 #include "screen_report.h"
 
 #include <commctrl.h>
@@ -14,7 +14,7 @@
 #include <ole2.h>
 #include <shellapi.h>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 namespace {
 
@@ -78,7 +78,7 @@ int guarded_run(int how_to_show) {
 
 } // namespace
 
-} // namespace vellora::demo
+} // namespace vellora::samples
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int how_to_show) {
     // Without this the system would draw the form small and blow the picture up on a screen of high
@@ -88,7 +88,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int how_to_show) {
         return 1;
     const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_BAR_CLASSES};
     InitCommonControlsEx(&classes);
-    const int code = vellora::demo::guarded_run(how_to_show);
+    const int code = vellora::samples::guarded_run(how_to_show);
     OleUninitialize();
     return code;
 }

@@ -1,12 +1,12 @@
 #include "record_file.h"
 
-#include "environment.h"
-#include "failure.h"
+#include "hosting/environment.h"
+#include "hosting/failure.h"
 
 #include <memory>
 #include <windows.h>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 namespace {
 
@@ -95,4 +95,4 @@ bool decode(std::string_view utf8, std::wstring& text) {
     return length > 0;
 }
 
-} // namespace vellora::demo
+} // namespace vellora::samples

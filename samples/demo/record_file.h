@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 /// Where a file is expected and how it is laid out.
 struct RecordSource {
@@ -42,4 +42,4 @@ private:
 /// A field as text; false for what is not UTF-8.
 bool decode(std::string_view utf8, std::wstring& text);
 
-} // namespace vellora::demo
+} // namespace vellora::samples

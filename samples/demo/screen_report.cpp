@@ -2,7 +2,7 @@
 
 #include <commctrl.h>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 namespace {
 
@@ -93,4 +93,4 @@ void ScreenReport::report(const std::wstring& name, const std::wstring& value) {
     file_.write({L"state", name, value});
 }
 
-} // namespace vellora::demo
+} // namespace vellora::samples

@@ -8,7 +8,7 @@
 #include <map>
 #include <string>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 class ScreenReport {
 public:
@@ -28,4 +28,4 @@ private:
     std::map<std::wstring, std::wstring> reported_;
 };
 
-} // namespace vellora::demo
+} // namespace vellora::samples

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <map>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 namespace {
 
@@ -49,4 +49,4 @@ TextRows read_time_zones() {
     return rows;
 }
 
-} // namespace vellora::demo
+} // namespace vellora::samples

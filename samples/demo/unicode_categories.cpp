@@ -1,6 +1,6 @@
 #include "unicode_categories.h"
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 namespace {
 
@@ -50,4 +50,4 @@ std::wstring category_name(std::string_view code) {
     return std::wstring(code.begin(), code.end());
 }
 
-} // namespace vellora::demo
+} // namespace vellora::samples

@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 /// `Lu` becomes "Letter, uppercase". A code that came later stands for itself.
 std::wstring category_name(std::string_view code);
 
-} // namespace vellora::demo
+} // namespace vellora::samples

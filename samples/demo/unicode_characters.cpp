@@ -6,7 +6,7 @@
 #include <charconv>
 #include <cstdint>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 namespace {
 
@@ -60,4 +60,4 @@ TextRows read_unicode_characters() {
     return rows;
 }
 
-} // namespace vellora::demo
+} // namespace vellora::samples

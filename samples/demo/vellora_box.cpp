@@ -1,11 +1,11 @@
 #include "vellora_box.h"
 
-#include "bstr.h"
-#include "child_window.h"
-#include "failure.h"
-#include "screen.h"
+#include "hosting/child_window.h"
+#include "hosting/failure.h"
+#include "hosting/screen.h"
+#include "hosting/user.h"
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 using Microsoft::WRL::ComPtr;
 
@@ -24,15 +24,11 @@ VelloraBox::~VelloraBox() {
 }
 
 HWND VelloraBox::window() const {
-    long handle = 0;
-    check(control_->get_hWnd(&handle), L"Asking for the control's window");
-    return reinterpret_cast<HWND>(static_cast<LONG_PTR>(handle));
+    return window_of(control());
 }
 
 std::wstring VelloraBox::text() const {
-    Bstr text;
-    check(control_->get_Text(text.out()), L"Reading the control's text");
-    return text.text();
+    return text_of(control());
 }
 
 void VelloraBox::listen(EventSink::Handler handler) {
@@ -49,4 +45,4 @@ void VelloraBox::move(const FormLayout::Cell& cell, int list_width) {
     check(control_->put_DropDownWidthOffset(twips(wider)), L"Setting the width of the list");
 }
 
-} // namespace vellora::demo
+} // namespace vellora::samples

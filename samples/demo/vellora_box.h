@@ -1,15 +1,15 @@
 // One control of the form, with its label.
 #pragma once
 
-#include "control_factory.h"
-#include "control_site.h"
-#include "event_sink.h"
+#include "hosting/control_factory.h"
+#include "hosting/control_site.h"
+#include "hosting/event_sink.h"
 #include "form_layout.h"
 #include "list_contents.h"
 
 #include <string>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 class VelloraBox {
 public:
@@ -41,4 +41,4 @@ private:
     Microsoft::WRL::ComPtr<EventSink> events_;
 };
 
-} // namespace vellora::demo
+} // namespace vellora::samples

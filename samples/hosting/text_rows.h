@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 using TextRow = std::vector<std::wstring>;
 using TextRows = std::vector<TextRow>;
 
-} // namespace vellora::demo
+} // namespace vellora::samples

@@ -2,7 +2,7 @@
 
 #include <oleauto.h>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 STDMETHODIMP SavedSettings::Read(LPCOLESTR name, VARIANT* value, IErrorLog*) {
     const auto found = values_.find(name);
@@ -16,4 +16,4 @@ STDMETHODIMP SavedSettings::Read(LPCOLESTR name, VARIANT* value, IErrorLog*) {
     return VariantChangeType(value, &number, 0, wanted);
 }
 
-} // namespace vellora::demo
+} // namespace vellora::samples

@@ -1,6 +1,6 @@
 #include "form_frame.h"
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 using Microsoft::WRL::ComPtr;
 
@@ -32,4 +32,4 @@ STDMETHODIMP FormFrame::SetActiveObject(IOleInPlaceActiveObject* object, LPCOLES
     return S_OK;
 }
 
-} // namespace vellora::demo
+} // namespace vellora::samples

@@ -5,7 +5,7 @@
 #include <string>
 #include <windows.h>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 class Failure : public std::exception {
 public:
@@ -21,4 +21,4 @@ private:
 /// it.
 void check(HRESULT result, const wchar_t* step);
 
-} // namespace vellora::demo
+} // namespace vellora::samples

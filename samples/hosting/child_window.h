@@ -4,7 +4,7 @@
 #include <string>
 #include <windows.h>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 HWND make_label(HWND form, const std::wstring& text);
 HWND make_text_field(HWND form, const std::wstring& text, int id);
@@ -14,4 +14,4 @@ HWND make_status_bar(HWND form);
 void move_window(HWND window, const RECT& place);
 void set_font(HWND window, HFONT font);
 
-} // namespace vellora::demo
+} // namespace vellora::samples

@@ -5,7 +5,7 @@
 #include <olectl.h>
 #include <utility>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 using Microsoft::WRL::ComPtr;
 
@@ -32,10 +32,18 @@ ControlSite::ControlSite(const Surroundings& surroundings, std::wstring name)
     : surroundings_(surroundings), name_(std::move(name)) {}
 
 void ControlSite::take(IUnknown* control, IPropertyBag* saved) {
-    check(control->QueryInterface(IID_PPV_ARGS(&object_)), L"Asking the control for IOleObject");
-    check(control->QueryInterface(IID_PPV_ARGS(&in_place_)), L"Asking the control for IOleInPlaceObject");
+    adopt(control);
     check(object_->SetClientSite(this), L"Giving the control a site");
     load(control, saved);
+    show();
+}
+
+void ControlSite::adopt(IUnknown* control) {
+    check(control->QueryInterface(IID_PPV_ARGS(&object_)), L"Asking the control for IOleObject");
+    check(control->QueryInterface(IID_PPV_ARGS(&in_place_)), L"Asking the control for IOleInPlaceObject");
+}
+
+void ControlSite::show() {
     check(object_->DoVerb(OLEIVERB_INPLACEACTIVATE, nullptr, this, 0, surroundings_.form, &place_),
           L"Showing the control");
 }
@@ -48,7 +56,8 @@ void ControlSite::load(IUnknown* control, IPropertyBag* saved) {
 
 void ControlSite::move(const RECT& place) {
     place_ = place;
-    in_place_->SetObjectRects(&place, &place);
+    if (in_place_)
+        in_place_->SetObjectRects(&place, &place);
 }
 
 void ControlSite::release() {
@@ -60,6 +69,7 @@ void ControlSite::release() {
     }
     in_place_.Reset();
     object_.Reset();
+    extender_.Reset();
 }
 
 STDMETHODIMP ControlSite::GetWindow(HWND* window) {
@@ -73,8 +83,8 @@ STDMETHODIMP ControlSite::GetWindowContext(IOleInPlaceFrame** frame, IOleInPlace
     *document = nullptr;
     *place = place_;
     *clip = place_;
-    info->fMDIApp = FALSE;
-    info->hwndFrame = surroundings_.form;
+    info->fMDIApp = surroundings_.mdi_frame != nullptr;
+    info->hwndFrame = info->fMDIApp ? surroundings_.mdi_frame : surroundings_.form;
     info->haccel = nullptr;
     info->cAccelEntries = 0;
     return S_OK;
@@ -99,7 +109,7 @@ STDMETHODIMP ControlSite::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VAR
     VariantInit(result);
     switch (id) {
     case DISPID_AMBIENT_USERMODE:
-        give(result, true); // a running program, not a form designer
+        give(result, surroundings_.running);
         return S_OK;
     case DISPID_AMBIENT_DISPLAYNAME:
         give(result, name_);
@@ -118,8 +128,8 @@ STDMETHODIMP ControlSite::GetContainer(IOleContainer** container) {
 }
 
 STDMETHODIMP ControlSite::GetExtendedControl(IDispatch** object) {
-    *object = nullptr;
-    return E_NOTIMPL;
+    extender_.CopyTo(object);
+    return extender_ ? S_OK : E_NOTIMPL;
 }
 
 STDMETHODIMP ControlSite::GetTypeInfoCount(UINT* count) {
@@ -127,4 +137,4 @@ STDMETHODIMP ControlSite::GetTypeInfoCount(UINT* count) {
     return S_OK;
 }
 
-} // namespace vellora::demo
+} // namespace vellora::samples

@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <olectl.h>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 namespace {
 
@@ -44,4 +44,4 @@ int FormFont::height() const {
     return metrics.tmHeight;
 }
 
-} // namespace vellora::demo
+} // namespace vellora::samples

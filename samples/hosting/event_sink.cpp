@@ -1,12 +1,12 @@
 #include "event_sink.h"
 
-#include "bstr.h"
+#include "event_type.h"
 #include "failure.h"
 
 #include <VelloraCTL.h>
 #include <utility>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 using Microsoft::WRL::ComPtr;
 
@@ -26,20 +26,6 @@ std::wstring argument_text(const std::wstring& event, VARIANT& argument) {
     return result;
 }
 
-/// The event interface in the type library that describes the control.
-ComPtr<ITypeInfo> event_type(IUnknown* control) {
-    ComPtr<IDispatch> members;
-    ComPtr<ITypeInfo> type;
-    ComPtr<ITypeLib> library;
-    ComPtr<ITypeInfo> events;
-    UINT index = 0;
-    check(control->QueryInterface(IID_PPV_ARGS(&members)), L"Asking the control for IDispatch");
-    check(members->GetTypeInfo(0, LOCALE_USER_DEFAULT, &type), L"Asking the control for its type");
-    check(type->GetContainingTypeLib(&library, &index), L"Asking the control for its type library");
-    check(library->GetTypeInfoOfGuid(__uuidof(__Vellora), &events), L"Finding the control's events");
-    return events;
-}
-
 } // namespace
 
 std::wstring Event::text() const {
@@ -50,28 +36,17 @@ std::wstring Event::text() const {
 }
 
 void EventSink::listen_to(IUnknown* control) {
+    EventType type = event_type_of(control);
     ComPtr<IConnectionPointContainer> points;
     check(control->QueryInterface(IID_PPV_ARGS(&points)), L"Asking the control for its events");
-    check(points->FindConnectionPoint(__uuidof(__Vellora), &point_), L"Finding the control's events");
-    learn_names(control);
+    check(points->FindConnectionPoint(type.id, &point_), L"Finding the control's events");
+    names_ = std::move(type.names);
     check(point_->Advise(this, &cookie_), L"Listening to the control's events");
 }
 
 void EventSink::stop() {
     if (const ComPtr<IConnectionPoint> point = std::move(point_))
         point->Unadvise(cookie_);
-}
-
-void EventSink::learn_names(IUnknown* control) {
-    const ComPtr<ITypeInfo> type = event_type(control);
-    FUNCDESC* event = nullptr;
-    for (UINT i = 0; SUCCEEDED(type->GetFuncDesc(i, &event)); ++i) {
-        Bstr name;
-        UINT count = 0;
-        if (SUCCEEDED(type->GetNames(event->memid, name.out(), 1, &count)))
-            names_[event->memid] = name.text();
-        type->ReleaseFuncDesc(event);
-    }
 }
 
 // COM passes the arguments last one first.
@@ -96,4 +71,4 @@ STDMETHODIMP EventSink::GetTypeInfoCount(UINT* count) {
     return S_OK;
 }
 
-} // namespace vellora::demo
+} // namespace vellora::samples

@@ -3,7 +3,7 @@
 #include "environment.h"
 #include "failure.h"
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 using Microsoft::WRL::ComPtr;
 
@@ -47,4 +47,10 @@ ComPtr<_Vellora> ControlFactory::create() const {
     return control;
 }
 
-} // namespace vellora::demo
+ComPtr<IUnknown> ControlFactory::create_inside(IUnknown* outer) const {
+    ComPtr<IUnknown> inner;
+    check(factory_->CreateInstance(outer, IID_PPV_ARGS(&inner)), L"Creating a control inside another object");
+    return inner;
+}
+
+} // namespace vellora::samples

@@ -10,7 +10,7 @@
 #include <oaidl.h>
 #include <ocidl.h>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 class SavedSettings final : public ComObject<IPropertyBag> {
 public:
@@ -26,4 +26,4 @@ private:
     Values values_;
 };
 
-} // namespace vellora::demo
+} // namespace vellora::samples

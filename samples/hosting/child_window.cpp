@@ -2,7 +2,7 @@
 
 #include <commctrl.h>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 namespace {
 
@@ -39,4 +39,4 @@ void set_font(HWND window, HFONT font) {
     SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
 }
 
-} // namespace vellora::demo
+} // namespace vellora::samples

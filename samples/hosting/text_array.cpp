@@ -3,7 +3,7 @@
 #include "bstr.h"
 #include "failure.h"
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 namespace {
 
@@ -45,4 +45,4 @@ void TextArray::adopt(SAFEARRAY* array) {
     value_.parray = array;
 }
 
-} // namespace vellora::demo
+} // namespace vellora::samples

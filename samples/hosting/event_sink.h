@@ -12,7 +12,7 @@
 #include <ocidl.h>
 #include <wrl/client.h>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 struct Event {
     std::wstring name;
@@ -38,12 +38,10 @@ public:
     STDMETHODIMP GetIDsOfNames(REFIID, OLECHAR**, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
 
 private:
-    void learn_names(IUnknown* control);
-
     Handler handler_;
     std::map<DISPID, std::wstring> names_;
     Microsoft::WRL::ComPtr<IConnectionPoint> point_;
     DWORD cookie_ = 0;
 };
 
-} // namespace vellora::demo
+} // namespace vellora::samples

@@ -6,7 +6,7 @@
 #include <oleauto.h>
 #include <wrl/client.h>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 namespace {
 
@@ -29,4 +29,4 @@ void check(HRESULT result, const wchar_t* step) {
     throw Failure(std::wstring(step) + L" failed: " + number + L' ' + last_description());
 }
 
-} // namespace vellora::demo
+} // namespace vellora::samples

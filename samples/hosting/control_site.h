@@ -12,7 +12,7 @@
 #include <oleidl.h>
 #include <wrl/client.h>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 class ControlSite final : public ComObject<IOleClientSite, IOleInPlaceSite, IOleControlSite, IDispatch> {
 public:
@@ -21,6 +21,10 @@ public:
         HWND form;
         Microsoft::WRL::ComPtr<FormFrame> frame;
         Microsoft::WRL::ComPtr<IFontDisp> font;
+        /// The window around an MDI child; null for every other form.
+        HWND mdi_frame = nullptr;
+        /// False in a form designer: the control shows what it will look like, and nobody works with it.
+        bool running = true;
     };
 
     ControlSite(const Surroundings& surroundings, std::wstring name);
@@ -28,6 +32,11 @@ public:
     /// Takes a new control up and shows it; `saved` are its settings, null for a new one with all defaults.
     /// Throws a Failure when the control refuses.
     void take(IUnknown* control, IPropertyBag* saved);
+    /// The steps of take() for hosts that go another way about it: knowing the control, and showing it.
+    void adopt(IUnknown* control);
+    void show();
+    /// The host's own object around the control, by which the control learns its name.
+    void extend(IDispatch* extender) { extender_ = extender; }
     /// Pixels of the form's client area. The control may decide for another height, see place().
     void move(const RECT& place);
     const RECT& place() const noexcept { return place_; }
@@ -82,6 +91,7 @@ private:
     RECT place_{0, 0, 100, 20}; // until the form is laid out
     Microsoft::WRL::ComPtr<IOleObject> object_;
     Microsoft::WRL::ComPtr<IOleInPlaceObject> in_place_;
+    Microsoft::WRL::ComPtr<IDispatch> extender_;
 };
 
-} // namespace vellora::demo
+} // namespace vellora::samples

@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 /// Dots per inch, the same in both directions.
 inline int resolution() {
@@ -14,8 +14,12 @@ inline int resolution() {
 }
 
 /// A length that was designed for the usual 96 dots per inch.
-inline int scaled(int length) {
+inline int scaled(LONG length) {
     return MulDiv(length, resolution(), 96);
+}
+
+inline RECT scaled(const RECT& place) {
+    return {scaled(place.left), scaled(place.top), scaled(place.right), scaled(place.bottom)};
 }
 
 /// The control's unit: 1440 to the inch.
@@ -23,4 +27,4 @@ inline float twips(int pixels) {
     return static_cast<float>(pixels * (1440 / resolution()));
 }
 
-} // namespace vellora::demo
+} // namespace vellora::samples

@@ -8,7 +8,7 @@
 
 #include <oleauto.h>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 class Bstr {
 public:
@@ -31,4 +31,4 @@ private:
     BSTR text_ = nullptr;
 };
 
-} // namespace vellora::demo
+} // namespace vellora::samples

@@ -6,7 +6,7 @@
 #include <ocidl.h>
 #include <wrl/client.h>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 class FormFont {
 public:
@@ -26,4 +26,4 @@ private:
     HFONT handle_;
 };
 
-} // namespace vellora::demo
+} // namespace vellora::samples

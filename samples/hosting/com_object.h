@@ -5,7 +5,7 @@
 
 #include <unknwn.h>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 /// Deletes itself with its last reference; keep it in a ComPtr from the start.
 template <class First, class... Others>
@@ -48,4 +48,4 @@ private:
     ULONG references_ = 0;
 };
 
-} // namespace vellora::demo
+} // namespace vellora::samples

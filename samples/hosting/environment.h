@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 /// Empty when the variable is not set.
 std::wstring environment(const wchar_t* name);
@@ -12,4 +12,4 @@ std::wstring environment(const wchar_t* name);
 /// whose root is drive Z.
 std::wstring windows_path(std::wstring path);
 
-} // namespace vellora::demo
+} // namespace vellora::samples

@@ -7,7 +7,7 @@
 #include <oleidl.h>
 #include <wrl/client.h>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 class FormFrame final : public ComObject<IOleInPlaceFrame> {
 public:
@@ -39,4 +39,4 @@ private:
     Microsoft::WRL::ComPtr<IOleInPlaceActiveObject> active_;
 };
 
-} // namespace vellora::demo
+} // namespace vellora::samples

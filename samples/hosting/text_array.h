@@ -7,7 +7,7 @@
 
 #include <oleauto.h>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 /// A VARIANT that holds an array of texts and frees it.
 class TextArray {
@@ -29,4 +29,4 @@ private:
     VARIANT value_{};
 };
 
-} // namespace vellora::demo
+} // namespace vellora::samples

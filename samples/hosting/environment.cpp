@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <windows.h>
 
-namespace vellora::demo {
+namespace vellora::samples {
 
 std::wstring environment(const wchar_t* name) {
     std::wstring value(GetEnvironmentVariableW(name, nullptr, 0), L'\0');
@@ -18,4 +18,4 @@ std::wstring windows_path(std::wstring path) {
     return path;
 }
 
-} // namespace vellora::demo
+} // namespace vellora::samples

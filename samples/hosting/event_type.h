@@ -1,0 +1,20 @@
+// The events of a control as its type library describes them.
+#pragma once
+
+#include <map>
+#include <string>
+#include <windows.h>
+
+#include <oaidl.h>
+
+namespace vellora::samples {
+
+struct EventType {
+    IID id; // of the event interface, which connection points go by
+    std::map<DISPID, std::wstring> names;
+};
+
+/// Throws a Failure when the object has no events.
+EventType event_type_of(IUnknown* object);
+
+} // namespace vellora::samples

@@ -1,0 +1,39 @@
+// A window with controls on it and nothing else: the form of the small samples.
+#pragma once
+
+#include "controls.h"
+
+#include <functional>
+#include <optional>
+
+namespace vellora::samples {
+
+class PlainForm {
+public:
+    /// `client` is the inner size in pixels at 96 dots per inch. The form is not shown yet.
+    PlainForm(const wchar_t* title, SIZE client);
+    PlainForm(const PlainForm&) = delete;
+    PlainForm& operator=(const PlainForm&) = delete;
+    ~PlainForm();
+
+    HWND window() const noexcept { return window_; }
+    Controls& controls() noexcept { return *controls_; }
+    /// What a WM_COMMAND of a plain child does: its identifier and its notice.
+    void on_command(std::function<void(int id, int notice)> handler) { on_command_ = std::move(handler); }
+
+    void show() const;
+    /// Shows the form until the user closes it.
+    void run();
+    /// Handles what is in the queue, as run() would.
+    void settle();
+
+private:
+    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) noexcept;
+    void handle(UINT message, WPARAM wparam);
+
+    HWND window_ = nullptr;
+    std::optional<Controls> controls_;
+    std::function<void(int id, int notice)> on_command_;
+};
+
+} // namespace vellora::samples
