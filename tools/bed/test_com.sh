@@ -1,4 +1,4 @@
-# Ring com: test programs and scripts against the registered library.
+# Ring com: test programs, scripts and samples against the registered library.
 # shellcheck shell=bash
 
 SCRIPT_END="# end of script"
@@ -20,6 +20,7 @@ ring_com() {
             script_suite "$arch" "$script"
         fi
     done
+    ring_samples "$arch"
     manage_windows "$arch" Y
 }
 
@@ -37,24 +38,32 @@ manage_windows() {
 
 wide() { [ "$1" = x86 ] || echo --64; }
 
-# script_suite ARCH SCRIPT - counts the lines "ok NAME" and "not ok NAME: why".
-# An error in a script ends it silently and with code 0, so what runs is a copy
-# that begins with the checks and says when its end was reached.
+# script_suite ARCH SCRIPT - an error in a script ends it silently and with code
+# 0, so what runs is a copy that begins with the checks and says when its end was
+# reached.
 script_suite() {
-    local arch=$1 name=${2##*/} started=$SECONDS code=0 copy log passed failed
+    local arch=$1 name=${2##*/} copy
     copy=$SEAT/results/$arch/$name
-    log=$copy.log
-    mkdir -p -- "${log%/*}"
+    mkdir -p -- "${copy%/*}"
     {
         cat -- "$VELLORA_ROOT/tests/com/support/checks.vbs" "$2" | tr -d '\r'
         printf '\nWScript.Echo "%s"\n' "$SCRIPT_END"
     } | sed 's/$/\r/' >"$copy"
+    line_suite "$arch" "$name" cscript.exe //nologo "$(windows_path "$copy")"
+}
+
+# line_suite ARCH NAME PROGRAM... - counts the lines "ok NAME" and "not ok NAME:
+# why" that a Windows program prints.
+line_suite() {
+    local arch=$1 name=$2 started=$SECONDS code=0 log passed failed
+    shift 2
+    log=$SEAT/results/$arch/$name.log
+    mkdir -p -- "${log%/*}"
     # shellcheck disable=SC2046
-    timeout -k 5 "$TEST_SECONDS" "$VELLORA_ROOT/vellora" wine $(wide "$arch") cscript.exe //nologo \
-        "$(windows_path "$copy")" >"$log" 2>&1 </dev/null || code=$?
+    timeout -k 5 "$TEST_SECONDS" "$VELLORA_ROOT/vellora" wine $(wide "$arch") "$@" >"$log" 2>&1 </dev/null || code=$?
     passed=$(grep -c '^ok ' "$log" || true)
     failed=$(grep -c '^not ok ' "$log" || true)
-    if script_complete "$log" "$code" $((passed + failed)) "$failed"; then
+    if lines_complete "$log" "$code" $((passed + failed)) "$failed"; then
         suite_line "$arch" "$name" "$passed" "$failed" 0 $((SECONDS - started))
         { grep '^not ok ' "$log" || true; } | tr -d '\r' | sed 's/^/    /'
     else
@@ -69,11 +78,11 @@ script_suite() {
     [ "$code" -lt 124 ] || renew_server "$arch"
 }
 
-# script_complete LOG CODE LINES FAILED - whether it tested all it wanted to; a
-# last line "1..N" says how many tests that are.
-script_complete() {
+# lines_complete LOG CODE LINES FAILED - whether it tested all it wanted to and
+# came to its end; a last line "1..N" says how many tests that are.
+lines_complete() {
     local planned
     planned=$(tr -d '\r' <"$1" | sed -n 's/^1\.\.\([0-9]*\)$/\1/p')
-    [ "$3" -gt 0 ] && [ "${planned:-$3}" -eq "$3" ] && grep -q "^$SCRIPT_END" "$1" &&
+    [ "$3" -gt 0 ] && [ "${planned:-$3}" -eq "$3" ] && grep -qE "^($SCRIPT_END|1\.\.[0-9]+)" "$1" &&
         { [ "$2" -eq 0 ] || [ "$4" -gt 0 ]; }
 }
