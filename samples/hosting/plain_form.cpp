@@ -50,11 +50,7 @@ void PlainForm::show() const {
 
 void PlainForm::run() {
     show();
-    run_messages([this](MSG& message) { return controls_->takes(message); });
-}
-
-void PlainForm::settle() {
-    samples::settle([this](MSG& message) { return controls_->takes(message); });
+    run_messages([this](MSG& message) { return takes(message); });
 }
 
 LRESULT CALLBACK PlainForm::procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) noexcept {

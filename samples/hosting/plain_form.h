@@ -24,8 +24,7 @@ public:
     void show() const;
     /// Shows the form until the user closes it.
     void run();
-    /// Handles what is in the queue, as run() would.
-    void settle();
+    bool takes(MSG& message) const { return controls_->takes(message); }
 
 private:
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) noexcept;

@@ -55,15 +55,17 @@ std::wstring text_of(_Vellora& control) {
     return text.text();
 }
 
-void press(HWND window, WPARAM key) {
+void User::press(HWND window, WPARAM key) const {
     constexpr LPARAM once = 1, released = static_cast<LPARAM>(0xC0000001);
     PostMessageW(window, WM_KEYDOWN, key, once);
+    wait();
     PostMessageW(window, WM_KEYUP, key, released);
+    wait();
 }
 
-void type(HWND window, std::wstring_view text) {
+void User::type(HWND window, std::wstring_view text) const {
     for (const wchar_t character : text)
-        PostMessageW(window, WM_CHAR, character, 1);
+        press(window, LOBYTE(VkKeyScanW(character)));
 }
 
 } // namespace vellora::samples

@@ -45,23 +45,21 @@ VARIANT_BOOL checked(_Vellora& control, short row) {
 
 void play(ScriptForm& form, Steps& steps) {
     _Vellora& countries = form.control(L"Countries");
-    const auto settled = [&form](const auto& act) {
-        act();
-        form.window().settle();
-    };
-    settled([&] { type(text_field_of(countries), L"pe"); });
+    const User user(form.window());
+    user.type(text_field_of(countries), L"pe");
     steps.expect_same(L"a handler of KeyPress makes capital letters", L"PE", text_of(countries).substr(0, 2));
-    settled([&] { countries.ShowList(); });
+    check(countries.ShowList(), L"Opening the list");
     steps.expect_same(L"a handler hears that the list opened", L"The list is open.", form.status());
-    settled([&] { countries.put_Checked(0, VARIANT_TRUE); });
+    check(countries.put_Checked(0, VARIANT_TRUE), L"Checking a row");
     steps.expect(L"a handler of ItemCheck takes a check mark back", checked(countries, 0) == VARIANT_FALSE);
     steps.expect_same(L"the handler says so", L"New Zealand stays unchecked.", form.status());
-    settled([&] { press(open_list(), VK_END); });
-    settled([&] { press(open_list(), VK_SPACE); });
+    user.press(open_list(), VK_END);
+    user.press(open_list(), VK_SPACE);
     steps.expect(L"other rows can be checked by the space bar", checked(countries, 2) == VARIANT_TRUE);
-    settled([&] { countries.HideList(); });
+    check(countries.HideList(), L"Closing the list");
+    user.wait();
     steps.expect_same(L"a handler may read the control", L"The list is closed; checked: 1", form.status());
-    settled([&] { countries.put_ListIndex(1); });
+    check(countries.put_ListIndex(1), L"Choosing a row");
     steps.expect_same(L"a handler hears of the choice", L"SWITZERLAND was chosen.", form.status());
 }
 
@@ -69,7 +67,6 @@ void host(const std::vector<std::wstring>& arguments, Steps* steps) {
     const Microsoft::WRL::ComPtr<ScriptForm> form(new ScriptForm);
     form->run(read_script(arguments.empty() ? usual_script() : arguments.front()));
     form->window().show();
-    form->window().settle();
     if (steps)
         play(*form.Get(), *steps);
     else
