@@ -44,6 +44,10 @@ void EventSink::listen_to(IUnknown* control) {
     check(point_->Advise(this, &cookie_), L"Listening to the control's events");
 }
 
+void EventSink::learn_from(IUnknown* control) {
+    names_ = event_type_of(control).names;
+}
+
 void EventSink::stop() {
     if (const ComPtr<IConnectionPoint> point = std::move(point_))
         point->Unadvise(cookie_);

@@ -29,6 +29,8 @@ public:
 
     /// Connects to the control and learns the names of its events. Throws a Failure when it has no events.
     void listen_to(IUnknown* control);
+    /// Only learns the names, for a sink that is connected in another way.
+    void learn_from(IUnknown* control);
     void stop();
 
     STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*,
