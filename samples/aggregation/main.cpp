@@ -7,6 +7,7 @@
 #include "hosting/plain_form.h"
 #include "hosting/sample.h"
 #include "hosting/screen.h"
+#include "hosting/text_array.h"
 #include "hosting/user.h"
 
 #include <string>
@@ -79,12 +80,20 @@ void play(IDispatch* box, Steps& steps) {
                       static_cast<long>(references_of(box)));
 }
 
+void fill(IUnknown* box) {
+    ComPtr<_Vellora> control;
+    check(box->QueryInterface(IID_PPV_ARGS(&control)), L"Asking the extender for the control");
+    const TextRows rows = {{L"New Zealand"}, {L"Peru"}, {L"Switzerland"}};
+    check(control->put_List(0, -3, TextArray(rows).get()), L"Filling the list");
+}
+
 void show(Steps* steps) {
     PlainForm form(L"Vellora inside an extender", {320, 80});
     ComPtr<IDispatch> box = Extender::create(ControlFactory(), L"Countries");
     ControlSite& site = form.controls().reserve(L"Countries", scaled(RECT{16, 16, 304, 38}));
     site.extend(box.Get());
     site.take(box.Get(), nullptr);
+    fill(box.Get());
     form.show();
     if (steps)
         play(box.Get(), *steps);

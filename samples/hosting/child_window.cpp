@@ -23,6 +23,10 @@ HWND make_text_field(HWND form, const std::wstring& text, int id) {
     return make_child(form, L"Edit", text, WS_TABSTOP | ES_AUTOHSCROLL, WS_EX_CLIENTEDGE, id);
 }
 
+HWND make_button(HWND form, const std::wstring& text, int id) {
+    return make_child(form, L"Button", text, WS_TABSTOP | BS_PUSHBUTTON, 0, id);
+}
+
 HWND make_list_box(HWND form) {
     return make_child(form, L"ListBox", {}, WS_TABSTOP | WS_VSCROLL | LBS_NOINTEGRALHEIGHT, WS_EX_CLIENTEDGE);
 }

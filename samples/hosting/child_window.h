@@ -8,6 +8,7 @@ namespace vellora::samples {
 
 HWND make_label(HWND form, const std::wstring& text);
 HWND make_text_field(HWND form, const std::wstring& text, int id);
+HWND make_button(HWND form, const std::wstring& text, int id);
 HWND make_list_box(HWND form);
 HWND make_status_bar(HWND form);
 

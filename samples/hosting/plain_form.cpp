@@ -57,20 +57,24 @@ LRESULT CALLBACK PlainForm::procedure(HWND window, UINT message, WPARAM wparam, 
     auto* form = reinterpret_cast<PlainForm*>(GetWindowLongPtrW(window, GWLP_USERDATA));
     try {
         if (form)
-            form->handle(message, wparam);
+            form->handle(message, wparam, lparam);
     } catch (...) {
         // Exceptions must not reach the system. What failed is left undone.
     }
     return DefWindowProcW(window, message, wparam, lparam);
 }
 
-void PlainForm::handle(UINT message, WPARAM wparam) {
+void PlainForm::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     controls_->window_heard(message, wparam);
     switch (message) {
     case WM_COMMAND:
-        if (on_command_)
-            on_command_(LOWORD(wparam), HIWORD(wparam));
+        notified(LOWORD(wparam), HIWORD(wparam));
         break;
+    case WM_NOTIFY: {
+        const auto& header = *reinterpret_cast<const NMHDR*>(lparam);
+        notified(static_cast<int>(header.idFrom), static_cast<int>(header.code));
+        break;
+    }
     case WM_DESTROY:
         PostQuitMessage(0);
         break;
@@ -78,6 +82,11 @@ void PlainForm::handle(UINT message, WPARAM wparam) {
         window_ = nullptr;
         break;
     }
+}
+
+void PlainForm::notified(int id, int notice) const {
+    if (on_notice_)
+        on_notice_(id, notice);
 }
 
 } // namespace vellora::samples

@@ -18,8 +18,8 @@ public:
 
     HWND window() const noexcept { return window_; }
     Controls& controls() noexcept { return *controls_; }
-    /// What a WM_COMMAND of a plain child does: its identifier and its notice.
-    void on_command(std::function<void(int id, int notice)> handler) { on_command_ = std::move(handler); }
+    /// What happens when a plain child notifies the form: its identifier and its notice.
+    void on_notice(std::function<void(int id, int notice)> handler) { on_notice_ = std::move(handler); }
 
     void show() const;
     /// Shows the form until the user closes it.
@@ -28,11 +28,12 @@ public:
 
 private:
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) noexcept;
-    void handle(UINT message, WPARAM wparam);
+    void handle(UINT message, WPARAM wparam, LPARAM lparam);
+    void notified(int id, int notice) const;
 
     HWND window_ = nullptr;
     std::optional<Controls> controls_;
-    std::function<void(int id, int notice)> on_command_;
+    std::function<void(int id, int notice)> on_notice_;
 };
 
 } // namespace vellora::samples

@@ -23,7 +23,7 @@ public:
         const ControlFactory factory;
         for (const wchar_t* title : {L"From", L"To"})
             sheets_.push_back(std::make_unique<Sheet>(factory, window_, client_, title));
-        SendMessageW(client_, WM_MDICASCADE, 0, 0);
+        SendMessageW(client_, WM_MDITILE, MDITILE_HORIZONTAL, 0);
     }
     Frame(const Frame&) = delete;
     Frame& operator=(const Frame&) = delete;
