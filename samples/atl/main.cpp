@@ -67,8 +67,8 @@ private:
 };
 
 HWND make_window(HWND form, const wchar_t* window_class, const wchar_t* text, const RECT& place) {
-    return CreateWindowExW(WS_EX_CONTROLPARENT, window_class, text, WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN,
-                           place.left, place.top, place.right - place.left, place.bottom - place.top, form, nullptr,
+    return CreateWindowExW(WS_EX_CONTROLPARENT, window_class, text, WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, place.left,
+                           place.top, place.right - place.left, place.bottom - place.top, form, nullptr,
                            GetModuleHandleW(nullptr), nullptr);
 }
 
@@ -124,8 +124,7 @@ void play(AtlForm& atl, Steps& steps) {
                  IsChild(atl.by_name_window(), window_of(atl.by_name())));
     steps.expect_same(L"the control fills the window", width_of(atl.by_name_window()),
                       width_of(window_of(atl.by_name())));
-    steps.expect(L"a control can be attached to any window",
-                 IsChild(atl.attached_window(), window_of(atl.attached())));
+    steps.expect(L"a control can be attached to any window", IsChild(atl.attached_window(), window_of(atl.attached())));
     user.type(text_field_of(atl.by_name()), L"lake");
     steps.expect_same(L"it can be typed into", L"lake", text_of(atl.by_name()));
     steps.expect_same(L"which does not touch the other one", L"", text_of(atl.attached()));

@@ -23,7 +23,8 @@ using Microsoft::WRL::ComPtr;
 
 class CountryForm {
 public:
-    CountryForm() : form_(L"Vellora from C++", {320, 120}), control_(ControlFactory().create()), events_(new BoxEvents) {
+    CountryForm()
+        : form_(L"Vellora from C++", {320, 120}), control_(ControlFactory().create()), events_(new BoxEvents) {
         form_.controls().add(control_.Get(), L"Countries", scaled(RECT{16, 16, 304, 38}));
         fill();
         listen();

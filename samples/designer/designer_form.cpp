@@ -3,6 +3,7 @@
 #include "hosting/child_window.h"
 #include "hosting/failure.h"
 #include "hosting/screen.h"
+#include "hosting/user.h"
 
 #include <commctrl.h>
 #include <olectl.h>
@@ -121,6 +122,8 @@ void DesignerForm::put_on_form(IPropertyBag* settings) {
     control_ = factory_.create();
     form_.controls().design(!running_);
     site_ = &form_.controls().add(control_.Get(), L"Vellora1", control_place(), settings);
+    // Nobody works with a control that is being designed.
+    EnableWindow(window_of(control()), running_);
     table_.emplace(control_.Get());
     properties_.show(&*table_);
     changes_ = new ChangeSink([this] { properties_.refresh(); });

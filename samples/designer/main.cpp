@@ -59,10 +59,12 @@ void play_properties(DesignerForm& designer, Steps& steps) {
     check(designer.control().put_GridLines(VARIANT_TRUE), L"Setting a property");
     steps.expect_same(L"a change by somebody else shows at once", L"True",
                       designer.properties().shown_value(L"GridLines"));
+    steps.expect(L"nobody can type into a control that is being designed",
+                 !IsWindowEnabled(window_of(designer.control())));
     steps.expect(L"the control has property pages", page_count(designer.control()) > 0);
 }
 
-void play_modes(DesignerForm& designer, Steps& steps) {
+void play_modes(DesignerForm& designer, const User& user, Steps& steps) {
     set(designer, L"CheckBoxes", L"True");
     press_button(designer, DesignerForm::save);
     set(designer, L"CheckBoxes", L"False");
@@ -71,6 +73,8 @@ void play_modes(DesignerForm& designer, Steps& steps) {
     press_button(designer, DesignerForm::run);
     steps.expect_same(L"the running control has the designed settings", L"1 - vlToggle",
                       designer.properties().shown_value(L"ButtonStyle"));
+    user.type(text_field_of(designer.control()), L"bern");
+    steps.expect_same(L"and can be typed into", L"bern", text_of(designer.control()).substr(0, 4));
     set(designer, L"CheckBoxes", L"False");
     steps.expect_same(L"some of them cannot be changed any more", L"True",
                       designer.properties().shown_value(L"CheckBoxes"));
@@ -90,7 +94,7 @@ void design(Steps* steps) {
         return designer.form().run();
     const User user(designer.form());
     play_properties(designer, *steps);
-    play_modes(designer, *steps);
+    play_modes(designer, user, *steps);
 }
 
 } // namespace

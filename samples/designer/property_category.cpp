@@ -6,8 +6,7 @@ namespace vellora::samples {
 
 namespace {
 
-constexpr IID categorize_properties_id = {
-    0x4D07FC10, 0xF931, 0x11CE, {0xB0, 0x01, 0x00, 0xAA, 0x00, 0x68, 0x84, 0xE5}};
+constexpr IID categorize_properties_id = {0x4D07FC10, 0xF931, 0x11CE, {0xB0, 0x01, 0x00, 0xAA, 0x00, 0x68, 0x84, 0xE5}};
 
 // From -2 downwards.
 constexpr const wchar_t* standard_names[] = {L"Misc", L"Font", L"Position", L"Appearance", L"Behavior",
@@ -29,7 +28,7 @@ std::wstring PropertyCategories::name_for(DISPID property) const {
         return standard_names[index];
     Bstr name;
     return control_->GetCategoryName(category, LOCALE_USER_DEFAULT, name.out()) == S_OK ? name.text()
-                                                                                      : standard_names[0];
+                                                                                        : standard_names[0];
 }
 
 } // namespace vellora::samples

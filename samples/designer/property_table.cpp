@@ -45,8 +45,9 @@ std::wstring name_of(ITypeInfo* members, MEMBERID id) {
 Variant value_of(IDispatch* control, DISPID id) {
     DISPPARAMS none{};
     Variant value;
-    check(control->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none, value.out(), nullptr, nullptr),
-          L"Reading a property");
+    check(
+        control->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none, value.out(), nullptr, nullptr),
+        L"Reading a property");
     return value;
 }
 
@@ -130,7 +131,8 @@ void PropertyTable::set(const Property& property, const std::wstring& text) cons
             check(browsing_->GetPredefinedValue(property.id, list.cookies.pElems[i], value.out()),
                   L"Asking for a value");
     // "True" is a truth value and "&H80000005" a number only to somebody who knows what is wanted.
-    if (!value.change_to(property.is_color ? static_cast<VARTYPE>(VT_I4) : value_of(control_.Get(), property.id).type()))
+    if (!value.change_to(property.is_color ? static_cast<VARTYPE>(VT_I4)
+                                           : value_of(control_.Get(), property.id).type()))
         throw Failure(L'"' + text + L"\" is no value for " + property.name + L'.');
     put(property.id, value.get());
 }
@@ -139,8 +141,8 @@ void PropertyTable::put(DISPID id, VARIANT* value) const {
     DISPID assigned = DISPID_PROPERTYPUT;
     DISPPARAMS arguments{value, &assigned, 1, 1};
     EXCEPINFO error{};
-    const HRESULT result = control_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYPUT, &arguments,
-                                            nullptr, &error, nullptr);
+    const HRESULT result =
+        control_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYPUT, &arguments, nullptr, &error, nullptr);
     const std::wstring description = error.bstrDescription ? error.bstrDescription : L"";
     for (const BSTR text : {error.bstrSource, error.bstrDescription, error.bstrHelpFile})
         SysFreeString(text);

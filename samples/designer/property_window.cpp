@@ -11,7 +11,8 @@ namespace {
 
 HWND make(HWND form, const wchar_t* window_class, DWORD style, int id) {
     return CreateWindowExW(WS_EX_CLIENTEDGE, window_class, L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP | style, 0, 0, 0, 0,
-                           form, reinterpret_cast<HMENU>(static_cast<LONG_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
+                           form, reinterpret_cast<HMENU>(static_cast<LONG_PTR>(id)), GetModuleHandleW(nullptr),
+                           nullptr);
 }
 
 void add_column(HWND list, int index, const wchar_t* caption, int width) {
@@ -55,8 +56,8 @@ PropertyWindow::PropertyWindow(HWND form, const RECT& place, int list_id, int fi
     set_font(field_, font);
     SendMessageW(list_, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
     add_column(list_, category_column, L"Category", 90);
-    add_column(list_, name_column, L"Property", 150);
-    add_column(list_, value_column, L"Value", 160);
+    add_column(list_, name_column, L"Property", 135);
+    add_column(list_, value_column, L"Value", 155);
 }
 
 void PropertyWindow::show(const PropertyTable* table) {

@@ -7,7 +7,8 @@ namespace vellora::samples {
 using Microsoft::WRL::ComPtr;
 
 Controls::Controls(HWND window, HWND mdi_frame)
-    : focus_(window), surroundings_{window, ComPtr<FormFrame>(new FormFrame(window)), font_.object(), mdi_frame, true} {}
+    : focus_(window), surroundings_{window, ComPtr<FormFrame>(new FormFrame(window)), font_.object(), mdi_frame, true} {
+}
 
 ControlSite& Controls::add(IUnknown* control, const std::wstring& name, const RECT& place, IPropertyBag* saved) {
     ControlSite& site = reserve(name, place);

@@ -9,8 +9,8 @@ namespace {
 void print(const std::wstring& line) {
     const int length = static_cast<int>(line.size());
     std::string bytes(line.size() * 3 + 1, '\0'); // UTF-8 has three bytes for a UTF-16 unit at most
-    bytes.resize(static_cast<std::size_t>(WideCharToMultiByte(
-        CP_UTF8, 0, line.data(), length, bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr)));
+    bytes.resize(static_cast<std::size_t>(WideCharToMultiByte(CP_UTF8, 0, line.data(), length, bytes.data(),
+                                                              static_cast<int>(bytes.size()), nullptr, nullptr)));
     bytes += '\n';
     DWORD written = 0;
     WriteFile(GetStdHandle(STD_OUTPUT_HANDLE), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);

@@ -34,7 +34,9 @@ public:
         return &value_;
     }
     /// Becomes a value of another type; false, and unchanged, when it has no meaning there.
-    bool change_to(VARTYPE type) noexcept { return SUCCEEDED(VariantChangeType(&value_, &value_, VARIANT_ALPHABOOL, type)); }
+    bool change_to(VARTYPE type) noexcept {
+        return SUCCEEDED(VariantChangeType(&value_, &value_, VARIANT_ALPHABOOL, type));
+    }
     /// Empty for what is no text.
     std::wstring text() const {
         return value_.vt == VT_BSTR ? std::wstring(value_.bstrVal, SysStringLen(value_.bstrVal)) : std::wstring();

@@ -37,8 +37,8 @@ void Sheet::create_window(HWND client, const wchar_t* title) {
     sheet.lpszClassName = class_name;
     RegisterClassW(&sheet);
     window_ = CreateWindowExW(WS_EX_MDICHILD | WS_EX_CONTROLPARENT, class_name, title, WS_CLIPCHILDREN | WS_VISIBLE,
-                              CW_USEDEFAULT, CW_USEDEFAULT, scaled(250), scaled(120), client, nullptr,
-                              sheet.hInstance, nullptr);
+                              CW_USEDEFAULT, CW_USEDEFAULT, scaled(250), scaled(120), client, nullptr, sheet.hInstance,
+                              nullptr);
     if (!window_)
         throw Failure(L"A window inside the frame cannot be made.");
 }

@@ -23,8 +23,8 @@ std::wstring usual_script() {
 
 /// Scripts are texts in the user's code page.
 std::wstring read_script(const std::wstring& path) {
-    const HANDLE file = CreateFileW(windows_path(path).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
-                                    OPEN_EXISTING, 0, nullptr);
+    const HANDLE file =
+        CreateFileW(windows_path(path).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         throw Failure(L"The script " + path + L" cannot be read.");
     std::vector<char> bytes(GetFileSize(file, nullptr));
@@ -32,8 +32,8 @@ std::wstring read_script(const std::wstring& path) {
     ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr);
     CloseHandle(file);
     std::wstring text(count, L'\0');
-    text.resize(static_cast<std::size_t>(MultiByteToWideChar(CP_ACP, 0, bytes.data(), static_cast<int>(count),
-                                                             text.data(), static_cast<int>(count))));
+    text.resize(static_cast<std::size_t>(
+        MultiByteToWideChar(CP_ACP, 0, bytes.data(), static_cast<int>(count), text.data(), static_cast<int>(count))));
     return text;
 }
 

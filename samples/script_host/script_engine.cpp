@@ -35,9 +35,9 @@ void ScriptEngine::run(const std::wstring& text) {
     check(script_->SetScriptSite(this), L"Giving VBScript a site");
     check(parser->InitNew(), L"Preparing VBScript");
     check(script_->AddNamedItem(object_name_.c_str(), SCRIPTITEM_ISVISIBLE), L"Naming the program's object");
-    check_script(parser->ParseScriptText(text.c_str(), nullptr, nullptr, nullptr, 0, 1, SCRIPTTEXT_ISVISIBLE,
-                                         nullptr, nullptr),
-                 L"Reading the script");
+    check_script(
+        parser->ParseScriptText(text.c_str(), nullptr, nullptr, nullptr, 0, 1, SCRIPTTEXT_ISVISIBLE, nullptr, nullptr),
+        L"Reading the script");
     check_script(script_->SetScriptState(SCRIPTSTATE_CONNECTED), L"Running the script");
 }
 
@@ -51,8 +51,8 @@ void ScriptEngine::call(const std::wstring& procedure, DISPPARAMS& arguments) {
         FAILED(procedures->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &id)))
         return;
     EXCEPINFO info{};
-    const HRESULT result = procedures->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &arguments,
-                                              nullptr, &info, nullptr);
+    const HRESULT result =
+        procedures->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &arguments, nullptr, &info, nullptr);
     free_texts(info);
     check_script(result, procedure.c_str());
 }
