@@ -30,6 +30,7 @@ void Extender::take_in(ComPtr<IUnknown> control) {
 }
 
 STDMETHODIMP Extender::QueryInterface(REFIID id, void** object) {
+    *object = nullptr;
     if (!IsEqualIID(id, __uuidof(IUnknown)) && !IsEqualIID(id, __uuidof(IDispatch)))
         return inner_ ? inner_->QueryInterface(id, object) : E_NOINTERFACE;
     *object = static_cast<IDispatch*>(this);

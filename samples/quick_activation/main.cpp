@@ -39,6 +39,8 @@ public:
     }
     QuickForm(const QuickForm&) = delete;
     QuickForm& operator=(const QuickForm&) = delete;
+    // The control may raise events until it is gone, and the sink needs this form.
+    ~QuickForm() { form_.controls().release(); }
 
     PlainForm& form() noexcept { return form_; }
     _Vellora& control() const noexcept { return *control_.Get(); }
