@@ -23,7 +23,6 @@ public:
         const ControlFactory factory;
         for (const wchar_t* title : {L"From", L"To"})
             sheets_.push_back(std::make_unique<Sheet>(factory, window_, client_, title));
-        SendMessageW(client_, WM_MDITILE, MDITILE_HORIZONTAL, 0);
     }
     Frame(const Frame&) = delete;
     Frame& operator=(const Frame&) = delete;
@@ -34,7 +33,10 @@ public:
     }
 
     Sheet& sheet(std::size_t index) const { return *sheets_[index]; }
-    void show() const { ShowWindow(window_, SW_SHOWNORMAL); }
+    void show() const {
+        ShowWindow(window_, SW_SHOWNORMAL);
+        SendMessageW(client_, WM_MDITILE, MDITILE_HORIZONTAL, 0);
+    }
     HWND active() const { return reinterpret_cast<HWND>(SendMessageW(client_, WM_MDIGETACTIVE, 0, 0)); }
     void activate(const Sheet& sheet) const {
         SendMessageW(client_, WM_MDIACTIVATE, reinterpret_cast<WPARAM>(sheet.window()), 0);

@@ -43,6 +43,20 @@ VARIANT_BOOL checked(_Vellora& control, short row) {
     return state;
 }
 
+/// As if there were such a row, which the handler asks the control for.
+void call_with_a_missing_row(ScriptForm& form) {
+    VARIANT arguments[3] = {}; // Cancel, State, ItemIndex
+    for (VARIANT& argument : arguments)
+        argument.vt = VT_I2;
+    arguments[2].iVal = 99;
+    DISPPARAMS parameters{arguments, nullptr, 3, 0};
+    try {
+        form.engine().call(L"Countries_ItemCheck", parameters);
+    } catch (const Failure&) {
+        // which the form has told the user
+    }
+}
+
 void play(ScriptForm& form, Steps& steps) {
     _Vellora& countries = form.control(L"Countries");
     const User user(form.window());
@@ -61,6 +75,9 @@ void play(ScriptForm& form, Steps& steps) {
     steps.expect_same(L"a handler may read the control", L"The list is closed; checked: 1", form.status());
     check(countries.put_ListIndex(1), L"Choosing a row");
     steps.expect_same(L"a handler hears of the choice", L"SWITZERLAND was chosen.", form.status());
+    call_with_a_missing_row(form);
+    steps.expect_same(L"the user is told of an error in a handler, with its line",
+                      L"Line 39: Invalid property array index", form.status());
 }
 
 void host(const std::vector<std::wstring>& arguments, Steps* steps) {

@@ -18,7 +18,7 @@ void free_texts(EXCEPINFO& info) {
 
 } // namespace
 
-ScriptEngine::ScriptEngine(HWND window) : window_(window) {
+ScriptEngine::ScriptEngine(HWND window, Teller tell) : window_(window), tell_(std::move(tell)) {
     CLSID language;
     check(CLSIDFromProgID(L"VBScript", &language), L"Looking for VBScript");
     check(CoCreateInstance(language, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&script_)), L"Starting VBScript");
@@ -36,7 +36,7 @@ void ScriptEngine::run(const std::wstring& text) {
     check(parser->InitNew(), L"Preparing VBScript");
     check(script_->AddNamedItem(object_name_.c_str(), SCRIPTITEM_ISVISIBLE), L"Naming the program's object");
     check_script(
-        parser->ParseScriptText(text.c_str(), nullptr, nullptr, nullptr, 0, 1, SCRIPTTEXT_ISVISIBLE, nullptr, nullptr),
+        parser->ParseScriptText(text.c_str(), nullptr, nullptr, nullptr, 0, 0, SCRIPTTEXT_ISVISIBLE, nullptr, nullptr),
         L"Reading the script");
     check_script(script_->SetScriptState(SCRIPTSTATE_CONNECTED), L"Running the script");
 }
@@ -83,6 +83,7 @@ STDMETHODIMP ScriptEngine::OnScriptError(IActiveScriptError* error) {
     if (SUCCEEDED(error->GetExceptionInfo(&info)) && SUCCEEDED(error->GetSourcePosition(&context, &line, &column)))
         error_ = L"Line " + std::to_wstring(line + 1) + L": " + (info.bstrDescription ? info.bstrDescription : L"");
     free_texts(info);
+    tell_(error_);
     return S_OK;
 }
 

@@ -3,6 +3,7 @@
 
 #include "hosting/com_object.h"
 
+#include <functional>
 #include <string>
 
 #include <activscp.h>
@@ -13,8 +14,11 @@ namespace vellora::samples {
 
 class ScriptEngine final : public ComObject<IActiveScriptSite, IActiveScriptSiteWindow> {
 public:
+    /// Tells the user what went wrong, and in which line.
+    using Teller = std::function<void(const std::wstring& error)>;
+
     /// `window` owns message boxes of the script. Throws a Failure when there is no VBScript.
-    explicit ScriptEngine(HWND window);
+    ScriptEngine(HWND window, Teller tell);
 
     /// The script knows the object by this name from now on.
     void offer(const std::wstring& name, IDispatch* object);
@@ -41,6 +45,7 @@ private:
     void check_script(HRESULT result, const wchar_t* step) const;
 
     HWND window_;
+    Teller tell_;
     std::wstring object_name_;
     Microsoft::WRL::ComPtr<IDispatch> object_;
     Microsoft::WRL::ComPtr<IActiveScript> script_;

@@ -32,7 +32,7 @@ std::wstring text_of(VARIANT& value) {
 
 ScriptForm::ScriptForm()
     : window_(L"Form of a script", client_size), status_(make_label(window_.window(), L"")),
-      engine_(new ScriptEngine(window_.window())) {
+      engine_(new ScriptEngine(window_.window(), [this](const std::wstring& error) { set_status(error); })) {
     set_font(status_, window_.controls().font());
     move_window(status_, scaled(RECT{16, 88, 384, 108}));
 }
