@@ -7,6 +7,27 @@ namespace vellora::test {
 
 using Microsoft::WRL::ComPtr;
 
+namespace {
+
+std::string name_of(DISPID id) {
+    switch (id) {
+    case DISPID_AMBIENT_USERMODE:
+        return "UserMode";
+    case DISPID_AMBIENT_DISPLAYNAME:
+        return "DisplayName";
+    case DISPID_AMBIENT_FONT:
+        return "Font";
+    case DISPID_AMBIENT_UIDEAD:
+        return "UIDead";
+    case DISPID_AMBIENT_LOCALEID:
+        return "LocaleID";
+    default:
+        return std::to_string(id);
+    }
+}
+
+} // namespace
+
 Ambients::Ambients(SiteState& state) : SitePart(state) {
     give(DISPID_AMBIENT_USERMODE, true);
     give(DISPID_AMBIENT_DISPLAYNAME, state.name);
@@ -48,9 +69,8 @@ STDMETHODIMP Ambients::GetIDsOfNames(REFIID, OLECHAR**, UINT, LCID, DISPID*) {
 
 STDMETHODIMP Ambients::Invoke(DISPID id, REFIID, LCID, WORD kind, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
                               UINT*) {
-    const HRESULT answer = enter("Ambient", "(" + std::to_string(id) + ")");
-    if (FAILED(answer))
-        return answer;
+    if (const auto answer = instead("Ambient", "(" + name_of(id) + ")"))
+        return *answer;
     const auto found = values_.find(id);
     if (!(kind & DISPATCH_PROPERTYGET) || found == values_.end() || !result)
         return DISP_E_MEMBERNOTFOUND;

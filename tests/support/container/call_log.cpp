@@ -20,9 +20,21 @@ std::vector<std::vector<std::size_t>> common_tails(const Lines& a, const Lines& 
 } // namespace
 
 HRESULT CallLog::enter(const std::string& call, const std::string& details) {
-    lines_.push_back(call + details);
-    const auto found = answers_.find(call);
-    return found == answers_.end() ? S_OK : found->second;
+    return instead(call, details).value_or(S_OK);
+}
+
+std::optional<HRESULT> CallLog::instead(const std::string& call, const std::string& details) {
+    const std::string line = call + details;
+    lines_.push_back(line);
+    if (auto action = actions_.extract(call))
+        action.mapped()();
+    return prescribed(call, line);
+}
+
+std::optional<HRESULT> CallLog::prescribed(const std::string& call, const std::string& line) const {
+    const auto whole = answers_.find(line);
+    const auto found = whole == answers_.end() ? answers_.find(call) : whole;
+    return found == answers_.end() ? std::nullopt : std::optional(found->second);
 }
 
 void CallLog::answer(const std::string& call, HRESULT result) {
@@ -30,6 +42,10 @@ void CallLog::answer(const std::string& call, HRESULT result) {
         answers_.erase(call);
     else
         answers_[call] = result;
+}
+
+void CallLog::give_nothing(const std::string& call) {
+    answers_[call] = S_OK;
 }
 
 std::vector<std::string> CallLog::take() {

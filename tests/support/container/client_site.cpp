@@ -27,14 +27,13 @@ STDMETHODIMP ClientSite::SaveObject() {
 
 STDMETHODIMP ClientSite::GetMoniker(DWORD, DWORD, IMoniker** moniker) {
     *moniker = nullptr;
-    const HRESULT answer = enter("IOleClientSite::GetMoniker");
-    return FAILED(answer) ? answer : E_NOTIMPL;
+    return instead("IOleClientSite::GetMoniker").value_or(E_NOTIMPL);
 }
 
 STDMETHODIMP ClientSite::GetContainer(IOleContainer** container) {
     *container = nullptr;
-    const HRESULT answer = enter("IOleClientSite::GetContainer");
-    return FAILED(answer) ? answer : state_.identity->QueryInterface(IID_PPV_ARGS(container));
+    const auto answer = instead("IOleClientSite::GetContainer");
+    return answer ? *answer : state_.identity->QueryInterface(IID_PPV_ARGS(container));
 }
 
 STDMETHODIMP ClientSite::ShowObject() {

@@ -25,9 +25,8 @@ STDMETHODIMP ControlSite::LockInPlaceActive(BOOL lock) {
 
 STDMETHODIMP ControlSite::GetExtendedControl(IDispatch** extender) {
     *extender = nullptr;
-    const HRESULT answer = enter("IOleControlSite::GetExtendedControl");
-    if (FAILED(answer))
-        return answer;
+    if (const auto answer = instead("IOleControlSite::GetExtendedControl"))
+        return *answer;
     if (!state_.has_extender)
         return E_NOTIMPL;
     *extender = make_extender(state_).Detach();
@@ -35,9 +34,8 @@ STDMETHODIMP ControlSite::GetExtendedControl(IDispatch** extender) {
 }
 
 STDMETHODIMP ControlSite::TransformCoords(POINTL* himetric, POINTF* container, DWORD flags) {
-    const HRESULT answer = enter("IOleControlSite::TransformCoords");
-    if (FAILED(answer))
-        return answer;
+    if (const auto answer = instead("IOleControlSite::TransformCoords"))
+        return *answer;
     if (flags & XFORMCOORDS_HIMETRICTOCONTAINER) {
         container->x = to_twips(himetric->x);
         container->y = to_twips(himetric->y);

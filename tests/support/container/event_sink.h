@@ -2,6 +2,7 @@
 // be put in, and may change arguments that are passed by reference.
 #pragma once
 
+#include "support/container/call_log.h"
 #include "support/container/own_object.h"
 #include "support/container/variant.h"
 
@@ -54,6 +55,9 @@ public:
     void forget_handlers();
     /// Names that are not noted (mouse moves, say); their handlers still run.
     void ignore(const std::string& name);
+    /// Also enters every event into the log of a site, which may prescribe an answer. The log has to outlive
+    /// the connection.
+    void report_to(CallLog& log) { log_ = &log; }
 
     STDMETHODIMP GetTypeInfoCount(UINT* count) override;
     STDMETHODIMP GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) override;
@@ -70,6 +74,7 @@ private:
     std::vector<std::string> ignored_;
     std::map<std::string, Handler> handlers_;
     std::function<void(const std::string&, EventArguments&)> observer_;
+    CallLog* log_ = nullptr;
 };
 
 /// The identifier of the control's own event interface; IID_NULL when it names none.

@@ -27,6 +27,7 @@ void move_control(SiteState& state) {
 
 ComPtr<IDispatch> make_parent(SiteState& state) {
     ComPtr<NamedDispatch> parent(new NamedDispatch);
+    parent->report_to(state.log, "Form");
     const ComPtr<IUnknown> site(state.identity);
     parent->property(L"hWnd", [site, &state] {
         const auto window = reinterpret_cast<LONG_PTR>(state.form ? state.form->window() : nullptr);
@@ -77,6 +78,7 @@ SIZE twips_per_pixel() {
 
 ComPtr<IDispatch> make_extender(SiteState& state) {
     ComPtr<NamedDispatch> extender(new NamedDispatch);
+    extender->report_to(state.log, "Extender");
     const ComPtr<IUnknown> site(state.identity);
     extender->property(L"Name", [site, &state] { return Variant(state.name); });
     add_lengths(*extender.Get(), site, state);

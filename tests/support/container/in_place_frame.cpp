@@ -25,7 +25,8 @@ public:
     STDMETHODIMP SetBorderSpace(const BORDERWIDTHS*) override { return enter("SetBorderSpace"); }
     STDMETHODIMP SetActiveObject(IOleInPlaceActiveObject* object, LPCOLESTR) override {
         const HRESULT answer = enter("SetActiveObject", object ? "(object)" : "(Nothing)");
-        if (SUCCEEDED(answer) && state_.form)
+        // The form lets go of it whatever it answers.
+        if ((SUCCEEDED(answer) || !object) && state_.form)
             state_.form->set_active_object(object);
         return answer;
     }

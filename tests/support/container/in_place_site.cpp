@@ -18,9 +18,9 @@ std::string size_text(const RECT& rect) {
 
 STDMETHODIMP InPlaceSite::GetWindow(HWND* window) {
     *window = nullptr;
-    const HRESULT answer = enter("IOleInPlaceSite::GetWindow");
-    if (FAILED(answer) || !state_.form)
-        return FAILED(answer) ? answer : E_FAIL;
+    const auto answer = instead("IOleInPlaceSite::GetWindow");
+    if (answer || !state_.form)
+        return answer.value_or(E_FAIL);
     *window = state_.form->window();
     return *window ? S_OK : E_FAIL;
 }
@@ -42,9 +42,9 @@ STDMETHODIMP InPlaceSite::GetWindowContext(IOleInPlaceFrame** frame, IOleInPlace
                                            RECT* place, RECT* clip, OLEINPLACEFRAMEINFO* info) {
     *frame = nullptr;
     *document = nullptr;
-    const HRESULT answer = enter("IOleInPlaceSite::GetWindowContext");
-    if (FAILED(answer) || !state_.form)
-        return FAILED(answer) ? answer : E_FAIL;
+    const auto answer = instead("IOleInPlaceSite::GetWindowContext");
+    if (answer || !state_.form)
+        return answer.value_or(E_FAIL);
     *frame = make_frame(state_, false).Detach();
     if (state_.form->is_mdi_child())
         *document = make_frame(state_, true).Detach();

@@ -1,6 +1,7 @@
 #include "support/container/named_dispatch.h"
 
 #include "support/container/failure.h"
+#include "support/container/text.h"
 
 #include <utility>
 #include <wchar.h>
@@ -18,6 +19,11 @@ void NamedDispatch::property(const std::wstring& name, Getter get, Putter put) {
 void NamedDispatch::indexed(const std::wstring& name, Indexed get) {
     const DISPID id = static_cast<DISPID>(properties_.size()) + 1;
     properties_[id] = {name, std::move(get), {}};
+}
+
+void NamedDispatch::report_to(CallLog& log, const std::string& object) {
+    log_ = &log;
+    log_name_ = object;
 }
 
 STDMETHODIMP NamedDispatch::GetTypeInfoCount(UINT* count) {
@@ -61,6 +67,9 @@ STDMETHODIMP NamedDispatch::Invoke(DISPID id, REFIID, LCID, WORD kind, DISPPARAM
     const auto found = properties_.find(id);
     if (found == properties_.end())
         return DISP_E_MEMBERNOTFOUND;
+    if (log_)
+        if (const auto answer = log_->instead(log_name_, "(" + utf8(found->second.name) + ")"))
+            return *answer;
     if (kind & DISPATCH_PROPERTYGET) {
         return read(found->second.get, *parameters, result, info);
     }

@@ -2,6 +2,7 @@
 // image list.
 #pragma once
 
+#include "support/container/call_log.h"
 #include "support/container/own_object.h"
 #include "support/container/variant.h"
 
@@ -26,6 +27,8 @@ public:
     void property(const std::wstring& name, Getter get, Putter put = {});
     /// A read-only property with indexes.
     void indexed(const std::wstring& name, Indexed get);
+    /// Enters every access into a log, which may prescribe an answer: `object(Property)`.
+    void report_to(CallLog& log, const std::string& object);
 
     STDMETHODIMP GetTypeInfoCount(UINT* count) override;
     STDMETHODIMP GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) override;
@@ -43,6 +46,8 @@ private:
         Putter put;
     };
     std::map<DISPID, Property> properties_;
+    CallLog* log_ = nullptr;
+    std::string log_name_;
 };
 
 } // namespace vellora::test

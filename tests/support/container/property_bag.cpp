@@ -39,6 +39,8 @@ HRESULT PropertyBag::failure_for(const std::wstring& key) const {
 
 STDMETHODIMP PropertyBag::Read(LPCOLESTR key, VARIANT* value, IErrorLog*) {
     asked_.push_back(utf8(key));
+    if (const auto answer = log_ ? log_->instead("IPropertyBag::Read") : std::nullopt)
+        return *answer;
     if (const HRESULT failure = failure_for(key); FAILED(failure))
         return failure;
     const auto found = values_.find(key);
@@ -55,6 +57,8 @@ STDMETHODIMP PropertyBag::Read(LPCOLESTR key, VARIANT* value, IErrorLog*) {
 STDMETHODIMP PropertyBag::Write(LPCOLESTR key, VARIANT* value) {
     Variant copy(*value);
     written_.push_back(utf8(key) + " = " + copy.describe());
+    if (const auto answer = log_ ? log_->instead("IPropertyBag::Write") : std::nullopt)
+        return *answer;
     if (const HRESULT failure = failure_for(key); FAILED(failure))
         return failure;
     values_[key] = std::move(copy);

@@ -2,6 +2,7 @@
 // own business; the bag keeps what it is given.
 #pragma once
 
+#include "support/container/call_log.h"
 #include "support/container/own_object.h"
 #include "support/container/variant.h"
 
@@ -27,6 +28,8 @@ public:
     const std::vector<std::string>& asked() const noexcept { return asked_; }
     /// Lets the reading or writing of a key fail.
     void fail(const std::wstring& key, HRESULT result);
+    /// Also enters every call into the log of a site, which may prescribe an answer.
+    void report_to(CallLog& log) { log_ = &log; }
 
     STDMETHODIMP Read(LPCOLESTR key, VARIANT* value, IErrorLog* log) override;
     STDMETHODIMP Write(LPCOLESTR key, VARIANT* value) override;
@@ -41,6 +44,7 @@ private:
     std::map<std::wstring, HRESULT, IgnoringCase> failures_;
     std::vector<std::string> written_;
     std::vector<std::string> asked_;
+    CallLog* log_ = nullptr;
 };
 
 } // namespace vellora::test

@@ -2,6 +2,7 @@
 
 #include "support/container/form.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vellora::test {
@@ -45,6 +46,9 @@ STDMETHODIMP Site::QueryInterface(REFIID id, void** object) {
         part = &notify_sink_;
     else if (is(IID_IDispatch))
         part = &ambients_;
+    if (std::any_of(state_.withheld.begin(), state_.withheld.end(), is))
+        part = nullptr;
+    state_.asked.push_back(id);
     *object = part;
     if (!part)
         return E_NOINTERFACE;

@@ -24,6 +24,11 @@ protected:
         return state_.log.enter(call, details);
     }
 
+    /// For calls that give something out, which is to be cleared before.
+    std::optional<HRESULT> instead(const char* call, const std::string& details = {}) {
+        return state_.log.instead(call, details);
+    }
+
     SiteState& state_;
 };
 

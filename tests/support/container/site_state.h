@@ -25,6 +25,9 @@ struct SiteState {
     /// Whether there is an extender, and whether the extender has a parent.
     bool has_extender = true;
     bool extender_has_parent = true;
+    /// The interfaces that were asked of the site, and those it does not own up to.
+    std::vector<IID> asked;
+    std::vector<IID> withheld;
     /// The properties whose change the control announced, by name.
     std::vector<std::string> changed;
     /// Nothing before the control is created and after it is destroyed.
