@@ -17,7 +17,8 @@ std::u16string HostSite::display_name() const { return host_.display_name(); }
 
 FontRef HostSite::ambient_font() const { return to_font(host_.ambients().font().Get()); }
 
-float HostSite::extender_width() const { return host_.extender().width(host_.size().cx); }
+// Before a container that has no extender gave a size, it is the natural one.
+float HostSite::extender_width() const { return host_.extender().width(host_.extent().pixels().cx); }
 
 WindowHandle HostSite::container_window() const { return handle_of(host_.container_window()); }
 

@@ -140,6 +140,18 @@ TEST_F(LifeCycle, SurvivesAHostWithoutAnyAmbients) {
     EXPECT_NE(nullptr, font.Get());
 }
 
+TEST_F(LifeCycle, LoadedBeforeItHasASizeOrAnExtenderItsColumnsAreSeen) {
+    Site& site = bare();
+    site.state().has_extender = false;
+    ASSERT_EQ(S_OK, site.give_site());
+    ASSERT_EQ(S_OK, site.load(*ComPtr<PropertyBag>(new PropertyBag).Get()));
+    ASSERT_EQ(S_OK, site.set_extent());
+    ASSERT_EQ(S_OK, site.activate());
+    float width = 0;
+    ASSERT_EQ(S_OK, vellora(site)->get_ColumnWidth(1, &width));
+    EXPECT_GT(width, 0);
+}
+
 TEST_F(LifeCycle, FollowsTheRectangleOfItsHost) {
     Site& site = place();
     ASSERT_EQ(S_OK, site.move({50, 60, 350, 84}));
