@@ -83,7 +83,7 @@ std::u16string ControlHost::display_name() const {
 }
 
 void ControlHost::property_changed(std::u16string_view name) {
-    persistence_.set_dirty(true);
+    persistence_.changed();
     if (ending_)
         return;
     const Hold alive = hold();

@@ -47,6 +47,7 @@ STDMETHODIMP PersistStorage::Save(IStorage* storage, BOOL) noexcept {
         check(storage->CreateStream(stream_name, STGM_CREATE | STGM_WRITE | STGM_SHARE_EXCLUSIVE, 0, 0,
                                     &stream));
         save_to_stream(host_, stream.Get());
+        host_.persistence().saved(false);
     });
 }
 
@@ -54,7 +55,7 @@ STDMETHODIMP PersistStorage::SaveCompleted(IStorage*) noexcept {
     // Only now it is certain that what was written is kept.
     const Hold alive = host_.hold();
     return guard([&] {
-        host_.persistence().set_dirty(false);
+        host_.persistence().completed();
         host_.views().saved();
     });
 }

@@ -28,6 +28,7 @@ void Persistence::load(ControlClient& client, PropertyStore& store) {
     initialised_ = true;
     client.load(store);
     dirty_ = false;
+    written_ = false;
 }
 
 } // namespace vellora::com

@@ -9,9 +9,17 @@ namespace vellora::com {
 class Persistence {
 public:
     bool dirty() const noexcept { return dirty_; }
-    void set_dirty(bool dirty) noexcept { dirty_ = dirty; }
-    /// What was written counts as saved, if the container says so.
-    void saved(bool clear_dirty) noexcept { dirty_ = dirty_ && !clear_dirty; }
+    void changed() noexcept {
+        dirty_ = true;
+        written_ = false;
+    }
+    /// What was written counts as saved at once, if the container says so, else when it is completed.
+    void saved(bool clear_dirty) noexcept {
+        written_ = true;
+        dirty_ = dirty_ && !clear_dirty;
+    }
+    /// The container keeps what was written; a change since then wants saving all the same.
+    void completed() noexcept { dirty_ = dirty_ && !written_; }
 
     /// Without a site the defaults wait for one, since they come from the container. False when the container
     /// has asked before or has loaded the control.
@@ -25,6 +33,7 @@ private:
     bool asked_ = false;
     bool initialised_ = false;
     bool dirty_ = false;
+    bool written_ = false; // as it is now
 };
 
 } // namespace vellora::com
