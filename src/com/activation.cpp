@@ -137,6 +137,10 @@ void Activation::give_up_active_object() {
 }
 
 void Activation::deactivate() {
+    if (!in_place())
+        return;
+    // While everything stands: a list that closes tells the program so, which may do with the control what it likes.
+    guard([&] { host_.client().on_deactivated(); });
     deactivate_ui();
     if (!in_place())
         return;
@@ -144,7 +148,6 @@ void Activation::deactivate() {
     const ComPtr<IOleInPlaceSite> site = std::move(site_);
     frame_.Reset();
     document_.Reset();
-    guard([&] { host_.client().on_deactivated(); });
     tell_focus(false);
     leave_parent();
     site->OnInPlaceDeactivate();

@@ -63,8 +63,8 @@ public:
     virtual void load(PropertyStore& store) = 0;
     virtual void save(PropertyStore& store) = 0;
 
-    /// The control is no longer shown in its container: its window is about to go back to the parking window,
-    /// and what floats outside of it has to go too. Also comes when the control is about to end.
+    /// The control is about to leave its container: its window goes back to the parking window, and what floats
+    /// outside of it has to go too. Also comes when the control is about to end.
     virtual void on_deactivated() {}
     virtual void on_ui_activated() = 0;
     virtual void on_ui_deactivated() = 0;

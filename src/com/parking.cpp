@@ -44,6 +44,9 @@ void Parking::park(HWND control) const noexcept {
     if (!IsWindow(control))
         return;
     ShowWindow(control, SW_HIDE);
+    // Not every platform takes the focus from the children of a window that is hidden.
+    if (IsChild(control, GetFocus()))
+        SetFocus(GetParent(control));
     SetParent(control, parking.window);
 }
 

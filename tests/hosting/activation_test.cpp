@@ -49,7 +49,7 @@ TEST_F(ActivationTest, GoesBackToItsParkingPlace) {
     fixture().take_lines();
     ASSERT_EQ(S_OK, site.deactivate());
     EXPECT_TRUE(parked());
-    EXPECT_EQ((Lines{"ui inactive", "deactivated"}), fixture().take_lines());
+    EXPECT_EQ((Lines{"deactivated", "ui inactive"}), fixture().take_lines());
     EXPECT_EQ(S_OK, site.deactivate());
     ASSERT_EQ(S_OK, site.activate());
     EXPECT_TRUE(IsWindowVisible(window()));
