@@ -10,7 +10,7 @@ target_link_libraries(test_container PUBLIC vellora_options ${host_libraries})
 
 # com/: the library through its public interface.
 file(GLOB com_test_sources CONFIGURE_DEPENDS
-  ${tests_dir}/com/*.cpp ${tests_dir}/com/support/*.cpp ${tests_dir}/regress/com_*.cpp)
+  ${tests_dir}/com/*.cpp ${tests_dir}/com/host_families/*.cpp ${tests_dir}/com/support/*.cpp ${tests_dir}/regress/com_*.cpp)
 add_executable(com_tests ${com_test_sources})
 # They run for seconds and are built often.
 target_compile_options(com_tests PRIVATE -O0 -g1)

@@ -17,6 +17,9 @@ bool refused(HRESULT result) noexcept {
 } // namespace
 
 void Activation::activate(const Proposal& proposal) {
+    // A container that has another window now did not say so.
+    if (orphaned_)
+        deactivate();
     if (in_place())
         return;
     const ComPtr<IOleInPlaceSite> site = permitted_site();
@@ -193,6 +196,7 @@ void Activation::tell_focus(bool has_focus) {
 }
 
 void Activation::leave_parent() noexcept {
+    orphaned_ = in_place();
     unwatch_parent(std::exchange(parent_, nullptr), *this);
     host_.parking().park(host_.client().window());
 }

@@ -63,6 +63,7 @@ private:
     State state_ = State::loaded;
     bool has_focus_ = false;
     bool clipped_ = false;
+    bool orphaned_ = false; // in place still, but the container's window is gone
     bool asking_for_size_ = false;
     RECT position_ = {};
     HWND parent_ = nullptr;
