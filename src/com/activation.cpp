@@ -63,8 +63,15 @@ Activation::Place Activation::find_place(const Proposal& proposal) {
 bool Activation::ask_context(Place& place) {
     OLEINPLACEFRAMEINFO info = {};
     info.cb = sizeof info;
+    ComPtr<IOleInPlaceFrame> frame;
+    ComPtr<IOleInPlaceUIWindow> document;
     const ComPtr<IOleInPlaceSite> site = site_;
-    const HRESULT result = site->GetWindowContext(&frame_, &document_, &place.position, &place.clip, &info);
+    const HRESULT result = site->GetWindowContext(&frame, &document, &place.position, &place.clip, &info);
+    // Nobody would let go of them after a deactivation inside that call.
+    if (in_place()) {
+        frame_ = frame;
+        document_ = document;
+    }
     return result == S_OK && !IsRectEmpty(&place.position);
 }
 
@@ -110,6 +117,9 @@ void Activation::become_active_object() {
         document->SetActiveObject(self.Get(), name);
         document->SetBorderSpace(nullptr);
     }
+    // Deactivated inside one of these calls, the control was given to a container that has taken leave of it.
+    if (!ui_active())
+        give_up_active_object(frame, document);
 }
 
 void Activation::take_focus() {
@@ -124,15 +134,13 @@ void Activation::deactivate_ui() {
         return;
     state_ = State::in_place;
     const ComPtr<IOleInPlaceSite> site = site_;
-    give_up_active_object();
+    give_up_active_object(frame_, document_);
     // Whatever the control makes of it, the container is told.
     guard([&] { host_.client().on_ui_deactivated(); });
     site->OnUIDeactivate(FALSE);
 }
 
-void Activation::give_up_active_object() {
-    const ComPtr<IOleInPlaceFrame> frame = frame_;
-    const ComPtr<IOleInPlaceUIWindow> document = document_;
+void Activation::give_up_active_object(ComPtr<IOleInPlaceFrame> frame, ComPtr<IOleInPlaceUIWindow> document) {
     if (document)
         document->SetActiveObject(nullptr, nullptr);
     if (frame)

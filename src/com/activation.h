@@ -56,7 +56,7 @@ private:
     void move_in(const Place& place);
     void clip_window(const RECT& position, const RECT& clip);
     void become_active_object();
-    void give_up_active_object();
+    void give_up_active_object(ComPtr<IOleInPlaceFrame> frame, ComPtr<IOleInPlaceUIWindow> document);
     void take_focus();
 
     ControlHost& host_;

@@ -152,6 +152,17 @@ TEST_F(LifeCycle, LoadedBeforeItHasASizeOrAnExtenderItsColumnsAreSeen) {
     EXPECT_GT(width, 0);
 }
 
+TEST_F(LifeCycle, DeactivatedWhileItAsksForItsPlaceItKeepsNothingOfIt) {
+    Site& site = bare();
+    ASSERT_EQ(S_OK, site.give_site());
+    ASSERT_EQ(S_OK, site.init_new());
+    site.log().inside("IOleInPlaceSite::GetWindowContext", [&] { site.deactivate(); });
+    EXPECT_EQ(S_OK, site.activate());
+    EXPECT_FALSE(IsWindowVisible(window_of(site)));
+    ASSERT_EQ(S_OK, site.take_site_away());
+    EXPECT_EQ(1U, site.references());
+}
+
 TEST_F(LifeCycle, FollowsTheRectangleOfItsHost) {
     Site& site = place();
     ASSERT_EQ(S_OK, site.move({50, 60, 350, 84}));
