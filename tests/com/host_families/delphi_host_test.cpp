@@ -79,6 +79,7 @@ Load stream = S_OK
     Ambient(UserMode)
     Ambient(UserMode)
     Ambient(UserMode)
+    IOleControlSite::GetExtendedControl
     Ambient(UserMode)
 Text = "Vellora1"
 SetClientSite Nothing = S_OK

@@ -113,6 +113,9 @@ Load storage = S_OK
     Ambient(UserMode)
     Ambient(UserMode)
     Ambient(UserMode)
+    IOleControlSite::GetExtendedControl
+    Extender(Width)
+    IOleControlSite::TransformCoords
     Ambient(UserMode)
     IAdviseSink::OnViewChange
 Load bag = S_OK
@@ -124,6 +127,9 @@ Load bag = S_OK
     Ambient(UserMode)
     Ambient(UserMode)
     Ambient(UserMode)
+    IOleControlSite::GetExtendedControl
+    Extender(Width)
+    IOleControlSite::TransformCoords
     Ambient(UserMode)
     IAdviseSink::OnViewChange
 Text = ""

@@ -149,6 +149,9 @@ Load stream = S_OK
     Ambient(UserMode)
     Ambient(UserMode)
     Ambient(UserMode)
+    IOleControlSite::GetExtendedControl
+    Extender(Width)
+    IOleControlSite::TransformCoords
     Ambient(UserMode)
 Text = "Vellora1"
 IsDirty = S_FALSE
