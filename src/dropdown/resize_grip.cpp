@@ -4,6 +4,8 @@
 #include "runtime/checked.h"
 #include "runtime/host_error.h"
 
+#include <algorithm>
+
 namespace vellora {
 
 namespace {
@@ -24,6 +26,11 @@ std::int32_t pointer_at(std::int32_t dx, std::int32_t dy) {
         return mouse_pointer::size_west_east;
     }
     return mouse_pointer::standard;
+}
+
+// As far as the mouse could pull it.
+std::int32_t pulled(std::int32_t from, std::int32_t step, std::int32_t screen_end) {
+    return step > 0 ? std::max(from, std::min(from + step, screen_end)) : from + step;
 }
 
 } // namespace
@@ -76,7 +83,12 @@ void ResizeGrip::lblShangle_MouseUp() { mbResizing_ = false; }
 
 void ResizeGrip::pull(std::int32_t across, std::int32_t down) {
     if (const auto window = core_.user32.window_rect(core_.state.mlStatic_hWnd)) {
-        resize(*window, window->right + across, window->bottom + down);
+        const auto screen_end = [&](int origin, int extent) {
+            return core_.user32.system_metric(origin) + core_.user32.system_metric(extent);
+        };
+        resize(*window,
+               pulled(window->right, across, screen_end(system_metric::screens_left, system_metric::screens_width)),
+               pulled(window->bottom, down, screen_end(system_metric::screens_top, system_metric::screens_height)));
     }
 }
 

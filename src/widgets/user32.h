@@ -34,6 +34,11 @@ inline constexpr std::int32_t header_end_drag = -311;
 namespace system_metric {
 inline constexpr int scroll_bar_height = 9; // SM_CYVTHUMB: as tall as a horizontal scroll bar
 inline constexpr int scroll_bar_thumb_width = 10; // SM_CXHTHUMB
+// All screens together: SM_XVIRTUALSCREEN and the three that follow.
+inline constexpr int screens_left = 76;
+inline constexpr int screens_top = 77;
+inline constexpr int screens_width = 78;
+inline constexpr int screens_height = 79;
 } // namespace system_metric
 
 namespace window_style {

@@ -253,5 +253,24 @@ TEST_F(ListKeysTest, TheListIsSizedByItsGrip) {
     EXPECT_EQ(list(), GetFocus());
 }
 
+TEST_F(ListKeysTest, TheGripStaysOnTheScreen) {
+    ASSERT_EQ(S_OK, c().put_AllowResize(VARIANT_TRUE));
+    open();
+    const RECT whole = screen_rect(floating_window());
+    const RECT large = {whole.left, whole.top, GetSystemMetrics(SM_CXSCREEN) - 9, GetSystemMetrics(SM_CYSCREEN) - 9};
+    MoveWindow(floating_window(), large.left, large.top, large.right - large.left, large.bottom - large.top, TRUE);
+    {
+        const Held ctrl(VK_CONTROL);
+        for (const WORD code : std::initializer_list<WORD>{VK_RIGHT, VK_RIGHT, VK_DOWN, VK_DOWN})
+            press_with(VK_SHIFT, code);
+    }
+    RECT pulled = screen_rect(floating_window());
+    EXPECT_EQ(GetSystemMetrics(SM_CXSCREEN), pulled.right);
+    EXPECT_EQ(GetSystemMetrics(SM_CYSCREEN), pulled.bottom);
+    const Held ctrl(VK_CONTROL);
+    press_with(VK_SHIFT, VK_LEFT);
+    EXPECT_EQ(pulled.right - 8, screen_rect(floating_window()).right);
+}
+
 } // namespace
 } // namespace vellora::test

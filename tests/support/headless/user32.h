@@ -39,7 +39,11 @@ public:
     /// The window whose rectangle cannot be read.
     WindowHandle without_rect = 0;
     std::map<int, int> metrics{{system_metric::scroll_bar_height, 17},
-                               {system_metric::scroll_bar_thumb_width, 16}};
+                               {system_metric::scroll_bar_thumb_width, 16},
+                               {system_metric::screens_left, -1600},
+                               {system_metric::screens_top, 0},
+                               {system_metric::screens_width, 1600 + 1280},
+                               {system_metric::screens_height, 1024}};
     /// The header item under the cursor, whatever the cursor's place.
     std::int32_t hit_item = -1;
     /// The place that was last hit-tested.
