@@ -38,6 +38,8 @@ void ListKeys::list_key_down(std::int16_t& key_code, std::int16_t shift) {
 void ListKeys::list_key_press(std::int16_t& key_ascii) {
     if (std::exchange(taken_, false)) {
         key_ascii = 0;
+    } else {
+        leave_headers(); // a row is being found by its text
     }
 }
 
@@ -59,13 +61,13 @@ bool ListKeys::take(std::int16_t key, std::int16_t shift) {
 bool ListKeys::take_in_headers(std::int16_t key, std::int16_t shift) {
     const int across = direction_of(key, key::left, key::right);
     if (shift == 0 && key == key::escape) {
-        core_.parts.ListView1.mark_header(0);
+        leave_headers();
     } else if (shift == 0 && (key == key::space || key == key::enter)) {
         core_.events.column_click(to_integer(marked()));
     } else if (across == 0) {
-        // Up and down are the rows' own, wherever the keyboard was.
-        if (shift == 0 && direction_of(key, key::up, key::down) != 0) {
-            core_.parts.ListView1.mark_header(0);
+        // What goes to a row is the rows' own, wherever the keyboard was.
+        if (key >= key::page_up && key <= key::down) {
+            leave_headers();
         }
         return false;
     } else if (shift == 0) {
@@ -76,6 +78,12 @@ bool ListKeys::take_in_headers(std::int16_t key, std::int16_t shift) {
         move(across);
     }
     return true;
+}
+
+void ListKeys::leave_headers() {
+    if (marked() != 0) {
+        core_.parts.ListView1.mark_header(0);
+    }
 }
 
 void ListKeys::leave_or_enter_headers() {

@@ -27,6 +27,7 @@ private:
 
     bool take(std::int16_t key, std::int16_t shift);
     bool take_in_headers(std::int16_t key, std::int16_t shift);
+    void leave_headers();
     void leave_or_enter_headers();
     void go(int direction);
     void widen(int direction);

@@ -253,6 +253,19 @@ TEST_F(ListKeysTest, TheListIsSizedByItsGrip) {
     EXPECT_EQ(list(), GetFocus());
 }
 
+// The rows take the keyboard back by any key that goes to one.
+TEST_F(ListKeysTest, AnyKeyOfTheRowsLeavesTheHeaders) {
+    for (const WORD code : std::initializer_list<WORD>{VK_UP, VK_DOWN, VK_HOME, VK_END, VK_PRIOR, VK_NEXT, 'R'}) {
+        in_headers();
+        press(code);
+        press(VK_RETURN);
+        EXPECT_FALSE(is_open()) << code;
+        const Lines told = events();
+        EXPECT_EQ(0, std::ranges::count(told, "ColumnClick(I2 1)")) << code;
+        c().HideList();
+    }
+}
+
 TEST_F(ListKeysTest, TheGripStaysOnTheScreen) {
     ASSERT_EQ(S_OK, c().put_AllowResize(VARIANT_TRUE));
     open();

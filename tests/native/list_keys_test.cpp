@@ -72,9 +72,9 @@ TEST(ListKeys, ANewOpeningBeginsInTheRows) {
     EXPECT_EQ(combo.marked(), 0);
 }
 
-TEST(ListKeys, UpAndDownAreTheRows) {
+TEST(ListKeys, KeysThatGoToARowAreTheRows) {
     ThreeColumns combo;
-    for (std::int16_t code : {key::up, key::down}) {
+    for (std::int16_t code : {key::up, key::down, key::home, key::end, key::page_up, key::page_down}) {
         combo.in_headers();
         std::int16_t left = code;
         combo.list_view.listener()->list_key_down(left, 0);
@@ -151,9 +151,13 @@ TEST(ListKeys, TheCharacterOfAKeyTakenFindsNoRow) {
         EXPECT_EQ(down, 0);
         EXPECT_EQ(character, 0);
     }
+    combo.press(key::f6);
+    std::int16_t key_code = 'B';
     std::int16_t letter = u'b';
+    combo.list_view.listener()->list_key_down(key_code, 0);
     combo.list_view.listener()->list_key_press(letter);
     EXPECT_EQ(letter, u'b');
+    EXPECT_EQ(combo.marked(), 0);
 }
 
 TEST(ListKeys, TheCharacterMayArriveWhileAHandlerTakesItsTime) {
