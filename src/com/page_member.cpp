@@ -3,6 +3,7 @@
 #include "com/bstr.h"
 
 #include <cwchar>
+#include <cwctype>
 
 namespace vellora::com {
 
@@ -41,7 +42,7 @@ std::u16string color_text(std::uint32_t color) {
 }
 
 Variant color_value(const std::u16string& text) {
-    if (text.size() > 2 && text[0] == u'&' && (text[1] == u'H' || text[1] == u'h')) {
+    if (text.size() > 2 && text[0] == u'&' && (text[1] == u'H' || text[1] == u'h') && std::iswxdigit(text[2])) {
         wchar_t* end = nullptr;
         const unsigned long color = std::wcstoul(wide(text.c_str()) + 2, &end, 16);
         if (*end == L'\0' || (*end == L'&' && end[1] == L'\0'))

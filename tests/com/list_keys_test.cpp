@@ -266,6 +266,16 @@ TEST_F(ListKeysTest, AnyKeyOfTheRowsLeavesTheHeaders) {
     }
 }
 
+// The character that Enter leaves behind then comes before the handler has returned.
+TEST_F(ListKeysTest, AHandlerMayRunTheMessagesThatWait) {
+    in_headers();
+    press(VK_SPACE);
+    site().events().on("ColumnClick", [this](EventArguments&) { container_.pump(); });
+    press(VK_RETURN);
+    EXPECT_TRUE(is_open());
+    EXPECT_TRUE(same_lines({"ColumnClick(I2 1)", "ColumnClick(I2 1)"}, events()));
+}
+
 TEST_F(ListKeysTest, TheGripStaysOnTheScreen) {
     ASSERT_EQ(S_OK, c().put_AllowResize(VARIANT_TRUE));
     open();

@@ -59,6 +59,13 @@ class ListKeysTest(ListOfRowsTest):
         self.assert_marked(picture="as-before")
         self.assertTrue(self.before.same(self.look("the-same"), self.host.rect("list")))
 
+    def test_the_mark_goes_with_its_column(self):
+        self.host.on("Vellora1", "ColumnClick",
+                     {"do": "put", "control": "Vellora1", "member": "Columns", "value": {"short": 2}, "args": []})
+        self.host.key("F6", "Right", "Right", "space")
+        self.assertEqual(2, self.host.get("Vellora1", "Columns"))
+        self.assertTrue(self.before.same(self.look("gone"), self.header(1)))
+
     def test_columns_are_fitted(self):
         self.host.key("ctrl+KP_Add")
         self.assertNotIn(self.widths()[0], (100, 0))
