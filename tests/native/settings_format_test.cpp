@@ -204,13 +204,10 @@ TEST(SettingsFormat, ValuesOfTheWrongLengthAreDamage) {
     // Name "A", then the type, the length and the value.
     for (const auto& [type, length] : std::initializer_list<std::pair<int, std::size_t>>{
              {2, 1}, {2, 3}, {3, 2}, {3, 8}, {4, 0}, {8, 3}, {11, 0}, {11, 2}, {13, 15}}) {
-        Bytes entry = bytes_of(std::string("\1\0A\0", 4));
-        entry.push_back(static_cast<std::byte>(type));
-        entry.push_back(std::byte{0});
-        entry.resize(entry.size() + 4);
-        entry[6] = static_cast<std::byte>(length);
-        entry.resize(entry.size() + length);
-        EXPECT_EQ(error_of(with_text(entry)), damaged) << type << ' ' << length;
+        std::string entry("\1\0A\0", 4);
+        entry += {static_cast<char>(type), '\0', static_cast<char>(length), '\0', '\0', '\0'};
+        entry.append(length, '\0');
+        EXPECT_EQ(error_of(with_text(bytes_of(entry))), damaged) << type << ' ' << length;
     }
 }
 
