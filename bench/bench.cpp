@@ -158,7 +158,7 @@ constexpr Subject subjects[] = {
     {"clearing", [](Bench& bench) { bench.clearing(); }},
     {"reading", [](Bench& bench) { bench.reading(); }},
     {"completing", [](Bench& bench) { measure_completing(bench.report); }},
-    {"typing", [](Bench& bench) { measure_typing(bench.report, bench.list); }},
+    {"typing", [](Bench& bench) { measure_typing(bench.report, bench.list, bench.short_list); }},
     {"finding", [](Bench& bench) { measure_finding(bench.report, bench.list, bench.native); }},
     {"adding-unknown", [](Bench& bench) { measure_adding_unknown(bench.report, bench.list); }},
     {"sorting", [](Bench& bench) { measure_sorting(bench.report); }},

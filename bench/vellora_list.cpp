@@ -115,22 +115,6 @@ HWND VelloraList::field() {
     return test::text_field(reinterpret_cast<HWND>(static_cast<LONG_PTR>(window)));
 }
 
-void VelloraList::be_about_to_type(const std::wstring& text) {
-    SetFocus(field());
-    check(vellora_->put_ListIndex(-1));
-    check(vellora_->put_Text(test::Bstr(text).get()));
-    check(vellora_->put_SelStart(static_cast<long>(text.size())));
-    container_.pump();
-}
-
-void VelloraList::type(wchar_t character) {
-    HWND window = field();
-    SendMessageW(window, WM_KEYDOWN, VK_PACKET, 1);
-    PostMessageW(window, WM_CHAR, character, 1);
-    container_.pump();
-    SendMessageW(window, WM_KEYUP, VK_PACKET, static_cast<LPARAM>(0xC0000001U));
-}
-
 short VelloraList::checked_count() {
     short count = 0;
     check(vellora_->get_CheckedCount(&count));

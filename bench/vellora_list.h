@@ -35,10 +35,8 @@ public:
     void select(long row) { check(vellora_->put_ListIndex(row)); }
 
     void complete(bool on) { check(vellora_->put_AutoComplete(on ? VARIANT_TRUE : VARIANT_FALSE)); }
-    /// Gives the field the focus and this text with the caret behind it, and selects no row.
-    void be_about_to_type(const std::wstring& text);
-    /// A key down, its character and the key up, with everything painted that follows from it.
-    void type(wchar_t character);
+    /// The edit window that is typed into.
+    HWND field();
     void check_row(short row) { check(vellora_->put_Checked(row, VARIANT_TRUE)); }
     short checked_count();
     void checked_items();
@@ -51,7 +49,6 @@ public:
 
 private:
     DISPID identifier(const wchar_t* member);
-    HWND field();
 
     test::Container& container_;
     Microsoft::WRL::ComPtr<_Vellora> vellora_;
