@@ -169,9 +169,13 @@ class UnusualKeysTest(TextTest):
 
     def test_control_with_either_shift_key(self):
         for shift in ("Shift_L", "Shift_R"):
-            self.host.counted("key_up", lambda shift=shift: xdotool(
-                "keydown", "Control_L", "keydown", shift, "keyup", shift, "keyup", "Control_L"), 2)
-            self.assert_events("Vellora1.KeyUp(I2 16, I2 2)", "Vellora1.KeyUp(I2 17, I2 0)")
+            xdotool("keydown", "Control_L", "keydown", shift, "keyup", shift, "keyup", "Control_L")
+            events = []
+            self.until(lambda: events.extend(self.host.events()) or "Vellora1.KeyUp(I2 17, I2 0)" in events,
+                       "the release of Ctrl")
+            # Some platforms release the other shift key, too.
+            self.assertEqual({"Vellora1.KeyUp(I2 16, I2 2)", "Vellora1.KeyUp(I2 17, I2 0)"},
+                             set(events) - {"Vellora1.KeyUp(I2 16, I2 3)"})
         self.assertEqual(("Vellora1", 0), (self.text(), self.host.floating()))
 
     def test_a_character_by_its_number(self):
