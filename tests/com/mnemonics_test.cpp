@@ -142,7 +142,7 @@ TEST_F(DialogMnemonics, TheLabelLeadsToTheFieldAndTheTextHasNone) {
     expect_letters_to_go_their_way();
 }
 
-// This container asks its controls for no mnemonics, whatever form it stands on: the dialog manager has them.
+// Inside a dialog it is the dialog manager that looks for the letter, whatever container the control stands in.
 TEST_F(DialogMnemonics, TheLabelLeadsThroughTheAtlContainerToo) {
     label();
     const ComPtr<IUnknown> control = Library::instance().create(__uuidof(Vellora));
