@@ -14,7 +14,6 @@ ring_com() {
         # shellcheck disable=SC2046
         gtest_suite "$arch" "$program" "$VELLORA_ROOT/vellora" wine $(wide "$arch") "$program"
     done
-    scripts_of_documents || count 0 1 0
     for script in "$VELLORA_ROOT"/tests/com/*.vbs "$VELLORA_ROOT"/build/documents/*.vbs; do
         if [ -f "$script" ] && [[ ${script##*/} == *${TEST_FILTER//\*/}* ]]; then
             script_suite "$arch" "$script"

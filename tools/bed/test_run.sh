@@ -78,16 +78,48 @@ run_rings() {
     data_folders
     if with_ring native; then run_ring native native; fi
     ring_needs_bed || return 0
+    ! with_ring com || scripts_of_documents || count 0 1 0
+    if [ ${#TEST_ARCHES[@]} -gt 1 ] && [ -z "$RUN_KEPT" ]; then
+        run_side_by_side
+    else
+        for arch in "${TEST_ARCHES[@]}"; do run_arch "$arch"; done
+    fi
+}
+
+# run_side_by_side - each kind of library on a display and a Wine of its own, at the same time: they wait more than they
+# work. What they print comes one after the other.
+run_side_by_side() {
+    local arch jobs=() index=0
     for arch in "${TEST_ARCHES[@]}"; do
-        display_start
-        if ! take_place "$arch"; then
-            count 0 1 0
-        else
-            if with_ring com; then run_ring com "$arch"; fi
-            if with_ring screen; then run_ring screen "$arch"; fi
-        fi
-        [ -n "$RUN_KEPT" ] || leave_place "$arch"
+        run_arch_apart "$arch" >"$SEAT/$arch.out" 2>&1 7>&- &
+        jobs+=($!)
     done
+    for arch in "${TEST_ARCHES[@]}"; do
+        wait "${jobs[index]}" || true
+        cat -- "$SEAT/$arch.out"
+        # Without its sums a run did not come to its end.
+        # shellcheck disable=SC2046
+        count $(cat -- "$SEAT/$arch.sums" 2>/dev/null || echo 0 1 0)
+        index=$((index + 1))
+    done
+}
+
+run_arch_apart() {
+    PASSED=0 FAILED=0 SKIPPED=0
+    run_arch "$1"
+    echo "$PASSED $FAILED $SKIPPED" >"$SEAT/$1.sums"
+}
+
+# run_arch ARCH - the rings that need a library.
+run_arch() {
+    display_start
+    if ! take_place "$1"; then
+        count 0 1 0
+    else
+        if with_ring com; then run_ring com "$1"; fi
+        if with_ring screen; then run_ring screen "$1"; fi
+    fi
+    [ -n "$RUN_KEPT" ] || leave_place "$1"
 }
 
 # Places of the time zones and of the character data for whoever tests them.
