@@ -79,15 +79,17 @@ run_rings() {
     if with_ring native; then run_ring native native; fi
     ring_needs_bed || return 0
     ! with_ring com || scripts_of_documents || count 0 1 0
-    if [ ${#TEST_ARCHES[@]} -gt 1 ] && [ -z "$RUN_KEPT" ]; then
-        run_side_by_side
-    else
-        for arch in "${TEST_ARCHES[@]}"; do run_arch "$arch"; done
+    if [ ${#TEST_ARCHES[@]} -eq 1 ] || [ -n "$RUN_KEPT" ]; then
+        for arch in "${TEST_ARCHES[@]}"; do run_arch "$arch" com screen; done
+        return 0
     fi
+    ! with_ring com || run_side_by_side
+    # A mouse and its windows want the machine to themselves.
+    ! with_ring screen || for arch in "${TEST_ARCHES[@]}"; do run_arch "$arch" screen; done
 }
 
-# run_side_by_side - each kind of library on a display and a Wine of its own, at the same time: they wait more than they
-# work. What they print comes one after the other.
+# run_side_by_side - ring com of each kind of library, on a display and a Wine of its own, at the same time: it waits
+# more than it works. What they print comes one after the other.
 run_side_by_side() {
     local arch jobs=() index=0
     for arch in "${TEST_ARCHES[@]}"; do
@@ -106,20 +108,23 @@ run_side_by_side() {
 
 run_arch_apart() {
     PASSED=0 FAILED=0 SKIPPED=0
-    run_arch "$1"
+    run_arch "$1" com
     echo "$PASSED $FAILED $SKIPPED" >"$SEAT/$1.sums"
 }
 
-# run_arch ARCH - the rings that need a library.
+# run_arch ARCH RING... - those of the rings that are wanted, with one kind of library.
 run_arch() {
+    local arch=$1 ring
+    shift
     display_start
-    if ! take_place "$1"; then
-        count 0 1 0
+    if take_place "$arch"; then
+        for ring in "$@"; do
+            ! with_ring "$ring" || run_ring "$ring" "$arch"
+        done
     else
-        if with_ring com; then run_ring com "$1"; fi
-        if with_ring screen; then run_ring screen "$1"; fi
+        count 0 1 0
     fi
-    [ -n "$RUN_KEPT" ] || leave_place "$1"
+    [ -n "$RUN_KEPT" ] || leave_place "$arch"
 }
 
 # Places of the time zones and of the character data for whoever tests them.
