@@ -202,15 +202,16 @@ Settings decode_settings(std::span<const std::byte> bytes) {
     whole.bytes(settings_head_size);
     Reader in(whole.bytes(size - settings_head_size));
     Settings settings;
-    while (!in.at_end()) {
+    for (std::size_t read = 0; !in.at_end(); ++read) {
+        // Also of a name that comes again: each of them is looked for among all the others.
+        if (read == most_settings) {
+            raise_damaged();
+        }
         const std::u16string name = in.text(in.number<std::uint16_t>());
         const auto type = static_cast<Type>(in.number<std::uint16_t>());
         const Reader content(in.bytes(in.number<std::uint32_t>()));
         if (auto value = decode_value(type, content)) {
             settings.put(name, std::move(*value));
-        }
-        if (settings.all().size() > most_settings) {
-            raise_damaged();
         }
     }
     return settings;

@@ -295,6 +295,17 @@ TEST(DamagedSettings, TooManyNamesAreRefused) {
     EXPECT_EQ(error_of(encode_settings(many)), damaged);
 }
 
+TEST(DamagedSettings, TooManyEntriesOfOneNameAreRefused) {
+    // Name "A", then the type, the length and the value.
+    const std::string entry("\1\0A\0\13\0\1\0\0\0\1", 11);
+    std::string many;
+    for (int times = 0; times < 4096; ++times) {
+        many += entry;
+    }
+    EXPECT_EQ(error_of(with_text(bytes_of(many))), 0);
+    EXPECT_EQ(error_of(with_text(bytes_of(many + entry))), damaged);
+}
+
 TEST(DamagedSettings, MoreThan64MegabytesAreNotWritten) {
     Settings large;
     large.put(u"Text", std::u16string(32U * 1024 * 1024, u'x'));
