@@ -32,11 +32,12 @@ STDMETHODIMP PersistMemory::Save(void* memory, BOOL clear_dirty, ULONG size) noe
     const Hold alive = host_.hold();
     return guard(IID_IPersistMemory, [&] {
         need(memory);
+        const std::uint32_t before = host_.persistence().changes();
         const Bytes content = saved_settings(host_);
         if (content.size() > size)
             throw ComFailure(E_INVALIDARG);
         std::memcpy(memory, content.data(), content.size());
-        host_.persistence().saved(clear_dirty != FALSE);
+        host_.persistence().saved(clear_dirty != FALSE, before);
     });
 }
 

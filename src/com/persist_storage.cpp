@@ -46,8 +46,9 @@ STDMETHODIMP PersistStorage::Save(IStorage* storage, BOOL) noexcept {
         ComPtr<IStream> stream;
         check(storage->CreateStream(stream_name, STGM_CREATE | STGM_WRITE | STGM_SHARE_EXCLUSIVE, 0, 0,
                                     &stream));
+        const std::uint32_t before = host_.persistence().changes();
         save_to_stream(host_, stream.Get());
-        host_.persistence().saved(false);
+        host_.persistence().saved(false, before);
     });
 }
 

@@ -23,8 +23,9 @@ STDMETHODIMP PersistStream::Load(IStream* stream) noexcept {
 STDMETHODIMP PersistStream::Save(IStream* stream, BOOL clear_dirty) noexcept {
     const Hold alive = host_.hold();
     return guard(IID_IPersistStreamInit, [&] {
+        const std::uint32_t before = host_.persistence().changes();
         save_to_stream(host_, stream);
-        host_.persistence().saved(clear_dirty != FALSE);
+        host_.persistence().saved(clear_dirty != FALSE, before);
     });
 }
 

@@ -4,6 +4,8 @@
 
 #include "com/control_client.h"
 
+#include <cstdint>
+
 namespace vellora::com {
 
 class Persistence {
@@ -12,11 +14,15 @@ public:
     void changed() noexcept {
         dirty_ = true;
         written_ = false;
+        ++changes_;
     }
-    /// What was written counts as saved at once, if the container says so, else when it is completed.
-    void saved(bool clear_dirty) noexcept {
-        written_ = true;
-        dirty_ = dirty_ && !clear_dirty;
+    /// How many there were so far, to be asked for before anything is written.
+    std::uint32_t changes() const noexcept { return changes_; }
+    /// What was written counts as saved at once, if the container says so, else when it is completed; but not if the
+    /// container changed the control while it took what was written.
+    void saved(bool clear_dirty, std::uint32_t changes_before) noexcept {
+        written_ = changes_ == changes_before;
+        dirty_ = dirty_ && !(clear_dirty && written_);
     }
     /// The container keeps what was written; a change since then wants saving all the same.
     void completed() noexcept { dirty_ = dirty_ && !written_; }
@@ -34,6 +40,7 @@ private:
     bool initialised_ = false;
     bool dirty_ = false;
     bool written_ = false; // as it is now
+    std::uint32_t changes_ = 0;
 };
 
 } // namespace vellora::com

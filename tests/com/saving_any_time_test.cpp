@@ -140,6 +140,21 @@ TEST_F(AnyTime, AChangeBetweenSaveAndCompletionIsNotSaved) {
     EXPECT_EQ(S_FALSE, door->IsDirty());
 }
 
+TEST_F(AnyTime, AChangeInsideASaveIsNotSaved) {
+    Site& site = place();
+    const auto door = site.as<IPersistPropertyBag>();
+    const ComPtr<PropertyBag> bag(new PropertyBag);
+    bag->report_to(site.log());
+    ASSERT_EQ(S_OK, vellora(site)->put_Text(Bstr(L"first").get()));
+    // The text is the first to be written.
+    site.log().inside("IPropertyBag::Write", [&] { vellora(site)->put_Text(Bstr(L"second").get()); });
+    ASSERT_EQ(S_OK, door->Save(bag.Get(), TRUE, TRUE));
+    EXPECT_EQ(L"first", bag->get(L"Text").text());
+    EXPECT_EQ(S_OK, site.as<IPersistStreamInit>()->IsDirty());
+    ASSERT_EQ(S_OK, door->Save(bag.Get(), TRUE, TRUE));
+    EXPECT_EQ(S_FALSE, site.as<IPersistStreamInit>()->IsDirty());
+}
+
 TEST_F(AnyTime, AStreamThatTakesNothingLeavesTheControlUnsaved) {
     Site& site = place();
     const ComPtr<IStorage> storage = make_storage();
