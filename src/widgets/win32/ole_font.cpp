@@ -16,10 +16,11 @@ namespace {
 
 constexpr float currency_units = 10000; // a CY counts ten-thousandths
 
-/// Receives the font object's notices. The font object holds it, so it counts its own references.
+/// Receives the font object's notices. The font object holds it, so it counts its own references; and may, while it
+/// tells its listeners of a change, call it once more after it was taken out.
 class ChangeSink final : public IPropertyNotifySink {
 public:
-    explicit ChangeSink(std::function<void()> changed) : changed_(std::move(changed)) {}
+    explicit ChangeSink(std::weak_ptr<const std::function<void()>> changed) : changed_(std::move(changed)) {}
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
         if (object == nullptr) {
@@ -42,7 +43,9 @@ public:
     }
     HRESULT STDMETHODCALLTYPE OnChanged(DISPID) noexcept override {
         try {
-            changed_();
+            if (const auto changed = changed_.lock()) {
+                (*changed)();
+            }
             return S_OK;
         } catch (...) {
             return E_FAIL;
@@ -53,7 +56,7 @@ public:
 private:
     ~ChangeSink() = default;
 
-    std::function<void()> changed_;
+    std::weak_ptr<const std::function<void()>> changed_;
     std::atomic<ULONG> references_{0};
 };
 
@@ -148,14 +151,15 @@ FontHandle& FontHandle::operator=(FontHandle&& other) noexcept {
     return *this;
 }
 
-FontWatch::FontWatch(IFont* font, std::function<void()> changed) {
+FontWatch::FontWatch(IFont* font, std::function<void()> changed)
+    : changed_(std::make_shared<const std::function<void()>>(std::move(changed))) {
     ComPtr<IConnectionPointContainer> container;
     if (FAILED(font->QueryInterface(IID_IConnectionPointContainer,
                                     reinterpret_cast<void**>(container.GetAddressOf()))) ||
         FAILED(container->FindConnectionPoint(IID_IPropertyNotifySink, &point_))) {
         return;
     }
-    const ComPtr<IPropertyNotifySink> sink(new ChangeSink(std::move(changed)));
+    const ComPtr<IPropertyNotifySink> sink(new ChangeSink(changed_));
     if (FAILED(point_->Advise(sink.Get(), &cookie_))) {
         point_.Reset();
     }
@@ -167,9 +171,11 @@ FontWatch::~FontWatch() {
     }
 }
 
-FontWatch::FontWatch(FontWatch&& other) noexcept : point_(std::move(other.point_)), cookie_(other.cookie_) {}
+FontWatch::FontWatch(FontWatch&& other) noexcept
+    : changed_(std::move(other.changed_)), point_(std::move(other.point_)), cookie_(other.cookie_) {}
 
 FontWatch& FontWatch::operator=(FontWatch&& other) noexcept {
+    std::swap(changed_, other.changed_);
     std::swap(point_, other.point_);
     std::swap(cookie_, other.cookie_);
     return *this;

@@ -59,6 +59,7 @@ public:
     FontWatch& operator=(FontWatch&& other) noexcept;
 
 private:
+    std::shared_ptr<const std::function<void()>> changed_;
     Microsoft::WRL::ComPtr<IConnectionPoint> point_;
     DWORD cookie_ = 0;
 };
