@@ -2,7 +2,6 @@
 
 #include "com/guard.h"
 
-#include <atomic>
 #include <cstring>
 #include <shlwapi.h>
 
@@ -16,22 +15,24 @@ constexpr CLSID standard_font = {
 constexpr CLSID standard_picture = {
     0x0BE35204, 0x8F91, 0x11CE, {0x9D, 0xE3, 0x00, 0xAA, 0x00, 0x4B, 0xB8, 0x51}};
 
+// Of the thread: what others load at the same time is beside, not within.
+thread_local int depth = 0;
+
 /// Objects may hold objects that are kept in the same way. Nobody's go this deep on purpose.
 class Nesting {
 public:
     Nesting() {
-        if (++depth_ > deepest) {
-            --depth_;
+        if (++depth > deepest) {
+            --depth;
             throw ComFailure(STG_E_DOCFILECORRUPT);
         }
     }
     Nesting(const Nesting&) = delete;
     Nesting& operator=(const Nesting&) = delete;
-    ~Nesting() { --depth_; }
+    ~Nesting() { --depth; }
 
 private:
     static constexpr int deepest = 16;
-    static inline std::atomic<int> depth_ = 0;
 };
 
 ComPtr<IStream> memory_stream(std::span<const std::byte> content) {
