@@ -2,6 +2,7 @@
 
 #include "com/control_host.h"
 #include "com/persist_steps.h"
+#include "com/stream_store.h"
 
 namespace vellora::com {
 
@@ -43,11 +44,14 @@ STDMETHODIMP PersistStorage::Save(IStorage* storage, BOOL) noexcept {
     const Hold alive = host_.hold();
     return guard(IID_IPersistStorage, [&] {
         need(storage);
+        const std::uint32_t before = host_.persistence().changes();
+        // A new stream ends the one of the last save, so there has to be something to write.
+        const Bytes content = saved_settings(host_);
         ComPtr<IStream> stream;
         check(storage->CreateStream(stream_name, STGM_CREATE | STGM_WRITE | STGM_SHARE_EXCLUSIVE, 0, 0,
                                     &stream));
-        const std::uint32_t before = host_.persistence().changes();
-        save_to_stream(host_, stream.Get());
+        need(stream.Get());
+        write_exactly(stream.Get(), content);
         host_.persistence().saved(false, before);
     });
 }

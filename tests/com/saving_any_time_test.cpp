@@ -140,6 +140,18 @@ TEST_F(AnyTime, AChangeBetweenSaveAndCompletionIsNotSaved) {
     EXPECT_EQ(S_FALSE, door->IsDirty());
 }
 
+TEST_F(AnyTime, ASaveThatFailsLeavesTheStorageAsItWas) {
+    Site& site = place();
+    const auto door = site.as<IPersistStorage>();
+    const ComPtr<IStorage> storage = make_storage();
+    ASSERT_EQ(S_OK, door->Save(storage.Get(), TRUE));
+    ASSERT_EQ(S_OK, door->SaveCompleted(nullptr));
+    const ComPtr<PropertyBag> too_many = bag_of({{L"Columns", std::int16_t{51}}});
+    ASSERT_TRUE(FAILED(site.load(*too_many.Get())));
+    ASSERT_TRUE(FAILED(door->Save(storage.Get(), TRUE)));
+    EXPECT_EQ(S_OK, door->Load(storage.Get()));
+}
+
 TEST_F(AnyTime, AChangeInsideASaveIsNotSaved) {
     Site& site = place();
     const auto door = site.as<IPersistPropertyBag>();
