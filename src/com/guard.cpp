@@ -68,7 +68,8 @@ HRESULT report_current_exception(REFIID interface_id) noexcept {
             return report(error, interface_id);
         }
     } catch (const ComFailure& failure) {
-        return failure.result();
+        // A platform function may fail without an error number.
+        return FAILED(failure.result()) ? failure.result() : E_FAIL;
     } catch (const std::bad_alloc&) {
         return E_OUTOFMEMORY;
     } catch (...) {

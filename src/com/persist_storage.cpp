@@ -40,7 +40,7 @@ STDMETHODIMP PersistStorage::Load(IStorage* storage) noexcept {
     });
 }
 
-STDMETHODIMP PersistStorage::Save(IStorage* storage, BOOL) noexcept {
+STDMETHODIMP PersistStorage::Save(IStorage* storage, BOOL same_as_load) noexcept {
     const Hold alive = host_.hold();
     return guard(IID_IPersistStorage, [&] {
         need(storage);
@@ -53,14 +53,17 @@ STDMETHODIMP PersistStorage::Save(IStorage* storage, BOOL) noexcept {
         need(stream.Get());
         write_exactly(stream.Get(), content);
         host_.persistence().saved(false, before);
+        copied_ = same_as_load == FALSE;
     });
 }
 
-STDMETHODIMP PersistStorage::SaveCompleted(IStorage*) noexcept {
-    // Only now it is certain that what was written is kept.
+STDMETHODIMP PersistStorage::SaveCompleted(IStorage* storage) noexcept {
+    // Only now it is certain that what was written is kept. A copy that does not become the control's own storage leaves
+    // that as unsaved as it was.
     const Hold alive = host_.hold();
     return guard([&] {
-        host_.persistence().completed();
+        if (storage || !copied_)
+            host_.persistence().completed();
         host_.views().saved();
     });
 }

@@ -22,6 +22,7 @@ public:
 
 private:
     ControlHost& host_;
+    bool copied_ = false; // the last Save was into another storage than the control's own
 };
 
 } // namespace vellora::com

@@ -76,7 +76,7 @@ bool class_belongs_to_another(Scope scope) {
 
 void forget_type_library(Scope scope) {
     // The platform learns from the registered file which interfaces to forget, and that file may be gone.
-    register_type_library(scope);
+    com::guard([&] { register_type_library(scope); });
     const Module& own = module();
     // Who may register may unregister.
     if (scope == Scope::user)

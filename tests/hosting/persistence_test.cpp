@@ -158,7 +158,15 @@ TEST_F(PersistenceTest, ThroughAStorage) {
     ASSERT_EQ(S_OK, StgCreateDocfileOnILockBytes(
                         bytes.Get(), STGM_CREATE | STGM_READWRITE | STGM_SHARE_EXCLUSIVE, 0, &storage));
     fixture().host().property_changed(u"Text");
+    // A copy elsewhere, then the same taken for its own.
     ASSERT_EQ(S_OK, as<IPersistStorage>()->Save(storage.Get(), FALSE));
+    EXPECT_EQ(S_OK, as<IPersistStorage>()->IsDirty());
+    ASSERT_EQ(S_OK, as<IPersistStorage>()->SaveCompleted(nullptr));
+    EXPECT_EQ(S_OK, as<IPersistStorage>()->IsDirty());
+    ASSERT_EQ(S_OK, as<IPersistStorage>()->SaveCompleted(storage.Get()));
+    EXPECT_EQ(S_FALSE, as<IPersistStorage>()->IsDirty());
+    fixture().host().property_changed(u"Text");
+    ASSERT_EQ(S_OK, as<IPersistStorage>()->Save(storage.Get(), TRUE));
     EXPECT_EQ(S_OK, as<IPersistStorage>()->IsDirty());
     ASSERT_EQ(S_OK, as<IPersistStorage>()->SaveCompleted(nullptr));
     EXPECT_EQ(S_FALSE, as<IPersistStorage>()->IsDirty());
