@@ -26,6 +26,18 @@ void be_about_to_type(HWND field, const std::wstring& text) {
     pump();
 }
 
+void type_and_complete(HWND field, wchar_t character, const std::wstring& whole) {
+    SendMessageW(field, WM_KEYDOWN, VK_PACKET, 1);
+    SendMessageW(field, WM_CHAR, character, 1);
+    const LRESULT caret = HIWORD(SendMessageW(field, EM_GETSEL, 0, 0));
+    SetWindowTextW(field, whole.c_str());
+    SendMessageW(field, EM_SETSEL, static_cast<WPARAM>(caret), caret);
+    SendMessageW(field, EM_SCROLLCARET, 0, 0);
+    SendMessageW(field, EM_SETSEL, static_cast<WPARAM>(caret), static_cast<LPARAM>(whole.size()));
+    pump();
+    SendMessageW(field, WM_KEYUP, VK_PACKET, static_cast<LPARAM>(0xC0000001U));
+}
+
 void type(HWND field, wchar_t character) {
     SendMessageW(field, WM_KEYDOWN, VK_PACKET, 1);
     PostMessageW(field, WM_CHAR, character, 1);

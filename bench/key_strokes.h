@@ -25,5 +25,8 @@ private:
 void be_about_to_type(HWND field, const std::wstring& text);
 /// A key down, its character and the key up, with everything painted that follows from it.
 void type(HWND field, wchar_t character);
+/// The same in a field that does not complete by itself: right after the character the text is replaced by the whole
+/// text, and what was not typed is selected, with the messages that any completion has to send.
+void type_and_complete(HWND field, wchar_t character, const std::wstring& whole);
 
 } // namespace vellora::bench
