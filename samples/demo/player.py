@@ -37,7 +37,8 @@ class Player:
     def take_picture(self, name):
         path = os.path.join(self.folder, f"{self.number:02}-{name}.png")
         wait_for(lambda: screen() == screen(), "the screen to come to rest")
-        subprocess.run(["import", "-window", "root", path], check=True)
+        # The screen around the form is empty.
+        subprocess.run(["import", "-window", "root", "-trim", "+repage", path], check=True)
 
 
 def screen():
