@@ -14,6 +14,8 @@ file(GLOB com_test_sources CONFIGURE_DEPENDS
 add_executable(com_tests ${com_test_sources})
 # They run for seconds and are built often.
 target_compile_options(com_tests PRIVATE -O0 -g1)
+# Reading these takes a third of the time of compiling a test.
+target_precompile_headers(com_tests PRIVATE <gtest/gtest.h> <windows.h> <olectl.h>)
 target_compile_definitions(com_tests PRIVATE
   VELLORA_TESTS_DIR="${tests_dir}" VELLORA_VERSION="${PROJECT_VERSION}")
 target_link_libraries(com_tests PRIVATE
