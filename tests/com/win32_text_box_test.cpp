@@ -51,6 +51,16 @@ TEST_F(Win32TextBoxTest, CutsATextAtItsFirstZeroAndAtTheMaximalLength) {
     EXPECT_EQ(box_->text(), u"123456");
 }
 
+TEST_F(Win32TextBoxTest, GivesATextOfEveryLengthBackWhole) {
+    for (const std::size_t length : {0U, 1U, 126U, 127U, 128U, 129U, 5000U}) {
+        std::u16string text(length, u'x');
+        if (length > 0)
+            text.back() = u'y';
+        box_->set_text(text);
+        EXPECT_EQ(box_->text(), text) << length;
+    }
+}
+
 TEST_F(Win32TextBoxTest, TypingRaisesKeyPressAndThenChange) {
     focus_box();
     type(box_->window(), u"ab");

@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -25,12 +26,18 @@ inline std::u16string from_wide(std::wstring_view text) {
     return {reinterpret_cast<const char16_t*>(text.data()), text.size()};
 }
 
-/// The text of a window, of any length; empty when the window is gone.
+/// The text of a window, of any length; empty when the window is gone. A short one is read with a single message: a
+/// key typed into a field reads its text several times, and each message passes everything that listens to the field.
 inline std::u16string window_text(HWND window) {
-    const int length = GetWindowTextLengthW(window);
-    std::u16string text(static_cast<std::size_t>(length > 0 ? length : 0), u'\0');
-    const int copied = GetWindowTextW(window, wide(text), length + 1);
-    text.resize(static_cast<std::size_t>(copied > 0 ? copied : 0));
+    constexpr int usual_length = 127;
+    std::u16string text(usual_length, u'\0');
+    int copied = GetWindowTextW(window, wide(text), usual_length + 1);
+    if (copied == usual_length) {
+        const int length = GetWindowTextLengthW(window);
+        text.resize(static_cast<std::size_t>(std::max(length, usual_length)));
+        copied = GetWindowTextW(window, wide(text), static_cast<int>(text.size()) + 1);
+    }
+    text.resize(static_cast<std::size_t>(std::max(copied, 0)));
     return text;
 }
 
