@@ -148,6 +148,12 @@ void Control::Wiring::surface_focus_left() {
     control_.drop_down_.UserControl_ExitFocus();
 }
 
+// Saving a font means saving its look.
+void Control::Wiring::surface_font_changed() {
+    const auto held = hold();
+    control_.core_.property_changed(u"Font");
+}
+
 void Control::Wiring::surface_withdrawn() {
     const auto held = hold();
     control_.drop_down_.subCloseDropDown();

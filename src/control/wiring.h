@@ -55,6 +55,7 @@ private:
     void surface_resized() override;
     void surface_lost_focus() override;
     void surface_focus_left() override;
+    void surface_font_changed() override;
     void surface_withdrawn() override;
     void surface_destroyed() override;
 

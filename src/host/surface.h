@@ -15,6 +15,8 @@ public:
     virtual void surface_lost_focus() = 0;
     /// The focus left the control altogether, its open list included.
     virtual void surface_focus_left() = 0;
+    /// Somebody gave the font object in use another look.
+    virtual void surface_font_changed() = 0;
     /// The control was hidden or disabled.
     virtual void surface_withdrawn() = 0;
     /// The window goes, with those in it.

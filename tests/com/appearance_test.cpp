@@ -193,6 +193,38 @@ TEST_F(AppearanceTest, TheHostsFontObjectStaysInUse) {
     expect_to_work();
 }
 
+TEST_F(AppearanceTest, AFontObjectWithAnotherLookIsAChangeOfTheControl) {
+    const ComPtr<IFontDisp> font = to<IFontDisp>(make_font(L"Tahoma", 8));
+    const auto changes_by = [&](double points) {
+        EXPECT_EQ(S_OK, site_->save(*ComPtr<PropertyBag>(new PropertyBag).Get()));
+        EXPECT_EQ(S_FALSE, site_->as<IPersistStreamInit>()->IsDirty());
+        site_->state().changed.clear();
+        put_property(font.Get(), L"Size", points);
+        EXPECT_EQ(site_->state().changed.empty() ? S_FALSE : S_OK, site_->as<IPersistStreamInit>()->IsDirty());
+        return site_->state().changed;
+    };
+    ASSERT_EQ(S_OK, control_->putref_Font(font.Get()));
+    EXPECT_EQ(Lines{"Font"}, changes_by(14));
+    EXPECT_EQ(Lines{}, changes_by(14));
+    EXPECT_EQ(Lines{"Font"}, changes_by(9));
+}
+
+TEST_F(AppearanceTest, WhoHearsOfAChangedFontMayGiveAnotherOrEndTheControl) {
+    const ComPtr<IFontDisp> font = to<IFontDisp>(make_font(L"Tahoma", 8));
+    const ComPtr<IFontDisp> other = to<IFontDisp>(make_font(L"Tahoma", 10));
+    ASSERT_EQ(S_OK, control_->putref_Font(font.Get()));
+    site_->log().inside("IPropertyNotifySink::OnChanged", [&] { control_->putref_Font(other.Get()); });
+    put_property(font.Get(), L"Size", 14);
+    ComPtr<IFontDisp> kept;
+    EXPECT_EQ(S_OK, control_->get_Font(&kept));
+    EXPECT_EQ(other.Get(), kept.Get());
+    control_.Reset();
+    site_->log().inside("IPropertyNotifySink::OnChanged", [&] { site_->destroy(); });
+    put_property(other.Get(), L"Size", 14);
+    EXPECT_EQ(nullptr, site_->control());
+    put_property(other.Get(), L"Size", 10);
+}
+
 TEST_F(AppearanceTest, OneFontObjectServesTwoControlsAndOutlivesThem) {
     const ComPtr<IFontDisp> font = to<IFontDisp>(make_font(L"Tahoma", 8));
     Site& other = place(L"Vellora2", {20, 80, 220, 104});

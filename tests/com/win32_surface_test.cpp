@@ -75,6 +75,19 @@ TEST_F(Win32SurfaceTest, MeasuresTextInItsFontWhateverTheFontBecomes) {
     EXPECT_GT(surface_.text_height(u"yY"), 2 * small);
 }
 
+TEST_F(Win32SurfaceTest, TellsWhenItsFontObjectGetsAnotherLook) {
+    const auto font = OleFont::create(u"Tahoma", 8);
+    surface_.set_font(font);
+    surface_.set_font(OleFont::create(u"Tahoma", 9));
+    font->font()->put_Italic(TRUE);
+    EXPECT_EQ(take_lines(), Lines{});
+    surface_.set_font(font);
+    font->font()->put_Underline(TRUE);
+    EXPECT_EQ(take_lines(), Lines{"font changed"});
+    font->font()->put_Underline(TRUE);
+    EXPECT_EQ(take_lines(), Lines{});
+}
+
 TEST_F(Win32SurfaceTest, PaintsItsBackColorAndRefusesWhatIsNone) {
     surface_.set_back_color(light_green);
     EXPECT_EQ(pixel(surface_.handle(), 190, 10), light_green);

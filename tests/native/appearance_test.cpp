@@ -38,6 +38,15 @@ TEST(Font, IsTheSameObjectEverywhere) {
     EXPECT_EQ(combo.journal().take_all(), Lines{"Changed(Font)"});
 }
 
+TEST(Font, ThatIsChangedItselfIsAChangeOfTheControl) {
+    HeadlessControl combo;
+    combo.surface.tell_font_changed();
+    EXPECT_EQ(combo.journal().take_all(), Lines{"Changed(Font)"});
+    combo.state().mbLoadingProperties = true;
+    combo.surface.tell_font_changed();
+    EXPECT_EQ(combo.journal().take_all(), Lines{});
+}
+
 TEST(Colours, GoToTheLiveFieldAndTheSurface) {
     HeadlessControl combo;
     combo.appearance().put_ForeColor(0x000000FF);

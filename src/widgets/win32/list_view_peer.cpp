@@ -34,7 +34,7 @@ ListViewPeer::ListViewPeer(HWND surface, FocusTracker& focus, const TextCompare&
       caption_ends_(window_, headers_, widths_), item_messages_(window_, rows_),
       column_messages_(window_, headers_, widths_, mirror_), display_(rows_), appearance_(window_),
       input_(window_, rows_, mirror_), tool_tip_(window_, rows_),
-      font_([this](HFONT font) { apply_font(font); }) {
+      font_([this](HFONT font, bool) { apply_font(font); }) {
     window_.serve(this);
     receive_notifications(window_.handle(), this);
     font_.set(nullptr);

@@ -4,6 +4,7 @@
 #include "widgets/win32/wide_text.h"
 
 #include <atomic>
+#include <cstring>
 #include <optional>
 #include <string>
 #include <utility>
@@ -96,6 +97,14 @@ std::optional<Look> look_of(IFont* font) {
     return look;
 }
 
+// A font object also tells of a value that it had already.
+bool look_alike(HFONT first, HFONT second) {
+    LOGFONTW looks[2] = {};
+    GetObjectW(first, sizeof looks[0], &looks[0]);
+    GetObjectW(second, sizeof looks[1], &looks[1]);
+    return std::memcmp(&looks[0], &looks[1], sizeof looks[0]) == 0;
+}
+
 [[noreturn]] void raise_no_font() {
     throw HostError(error_number::invalid_property_value);
 }
@@ -181,7 +190,7 @@ FontWatch& FontWatch::operator=(FontWatch&& other) noexcept {
     return *this;
 }
 
-FontInUse::FontInUse(std::function<void(HFONT)> apply) : apply_(std::move(apply)) {}
+FontInUse::FontInUse(Apply apply) : apply_(std::move(apply)) {}
 
 HFONT FontInUse::handle() const {
     return handle_.get() != nullptr ? handle_.get() : static_cast<HFONT>(GetStockObject(DEFAULT_GUI_FONT));
@@ -193,15 +202,16 @@ void FontInUse::set(const FontRef& font) {
         raise_no_font();
     }
     font_ = font;
-    watch_ = ole_font ? FontWatch(ole_font->font(), [this] { renew(); }) : FontWatch();
-    renew();
+    watch_ = ole_font ? FontWatch(ole_font->font(), [this] { renew(true); }) : FontWatch();
+    renew(false);
 }
 
-void FontInUse::renew() {
+void FontInUse::renew(bool told) {
     const auto* ole_font = static_cast<const OleFont*>(font_.get());
     FontHandle fresh(ole_font != nullptr ? ole_font->font() : nullptr);
+    const bool changed = told && !look_alike(handle_.get(), fresh.get());
     std::swap(handle_, fresh);
-    apply_(handle());
+    apply_(handle(), changed);
 }
 
 } // namespace vellora::win32

@@ -67,8 +67,10 @@ private:
 /// The font of one window: held, and applied now and after every change of the font object.
 class FontInUse {
 public:
-    /// `apply` gets each new handle; the one before it is let go afterwards.
-    explicit FontInUse(std::function<void(HFONT)> apply);
+    /// Gets each new handle, and whether it comes because somebody gave the font object another look. The handle
+    /// before it is let go afterwards. May end the font in use.
+    using Apply = std::function<void(HFONT handle, bool changed)>;
+    explicit FontInUse(Apply apply);
 
     const FontRef& font() const { return font_; }
     /// The handle in use; the system's default font while there is none.
@@ -77,9 +79,9 @@ public:
     void set(const FontRef& font);
 
 private:
-    void renew();
+    void renew(bool told);
 
-    std::function<void(HFONT)> apply_;
+    Apply apply_;
     FontRef font_;
     FontHandle handle_;
     FontWatch watch_;

@@ -249,6 +249,12 @@ LRESULT SurfaceWindow::tell_destroyed() {
     return 0;
 }
 
+void SurfaceWindow::tell_font(bool changed) {
+    if (changed && listener_ != nullptr) {
+        listener_->surface_font_changed();
+    }
+}
+
 void SurfaceWindow::focus_entered() {
     if (host_ != nullptr) {
         host_->surface_focus_entered();

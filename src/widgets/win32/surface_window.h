@@ -73,6 +73,7 @@ private:
     LRESULT tell_enabled(HWND window, WPARAM wparam);
     LRESULT tell_resized();
     LRESULT tell_destroyed();
+    void tell_font(bool changed);
     void focus_entered() override;
     void focus_left() override;
 
@@ -83,7 +84,7 @@ private:
     bool passing_focus_on_ = false;
     OleColor back_color_ = system_color::window;
     ColorBrush background_;
-    FontInUse font_{[](HFONT) {}};
+    FontInUse font_{[this](HFONT, bool changed) { tell_font(changed); }};
 };
 
 } // namespace vellora::win32

@@ -80,7 +80,7 @@ private:
     ColorBrush background_;
     std::optional<WORD> left_margin_; // as EM_SETMARGINS brought them
     std::optional<WORD> right_margin_;
-    FontInUse font_{[this](HFONT font) { apply_font(font); }};
+    FontInUse font_{[this](HFONT font, bool) { apply_font(font); }};
 };
 
 } // namespace vellora::win32

@@ -83,6 +83,7 @@ public:
     void surface_resized() override { lines_.push_back("resized"); }
     void surface_lost_focus() override { lines_.push_back("lost focus"); }
     void surface_focus_left() override { lines_.push_back("focus left"); }
+    void surface_font_changed() override { lines_.push_back("font changed"); }
     void surface_withdrawn() override { lines_.push_back("hidden"); }
     void surface_destroyed() override { lines_.push_back("destroyed"); }
 

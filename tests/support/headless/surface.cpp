@@ -35,6 +35,12 @@ void HeadlessSurface::resize(float width, float height) {
     }
 }
 
+void HeadlessSurface::tell_font_changed() {
+    if (listener_ != nullptr) {
+        listener_->surface_font_changed();
+    }
+}
+
 void HeadlessSurface::set_enabled(bool value) {
     enabled = value;
     if (!value && listener_ != nullptr) {

@@ -36,6 +36,8 @@ public:
 
     /// The container sizes the control.
     void resize(float width, float height);
+    /// Somebody changes a property of the font object in use.
+    void tell_font_changed();
     /// Moves the control's window on the screen; pixels.
     void place(std::int32_t left, std::int32_t top);
 
