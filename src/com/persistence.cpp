@@ -1,5 +1,8 @@
 #include "com/persistence.h"
 
+#include "com/guard.h"
+#include "runtime/scoped_flag.h"
+
 namespace vellora::com {
 
 bool Persistence::initialise_new(ControlClient& client, bool has_site) {
@@ -24,6 +27,10 @@ void Persistence::ensure_initialised(ControlClient& client) {
 }
 
 void Persistence::load(ControlClient& client, PropertyStore& store) {
+    // The control would be whole at the end of the inner loading, with half of the outer one to come.
+    if (loading_)
+        throw ComFailure(E_UNEXPECTED);
+    const RaisedFlag loading(loading_);
     asked_ = true;
     initialised_ = true;
     client.load(store);

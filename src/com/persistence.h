@@ -33,11 +33,13 @@ public:
     void site_given(ControlClient& client);
     /// For containers that never ask for it: a control that is used has its defaults.
     void ensure_initialised(ControlClient& client);
+    /// Throws E_UNEXPECTED for a container that asks for it inside the loading.
     void load(ControlClient& client, PropertyStore& store);
 
 private:
     bool asked_ = false;
     bool initialised_ = false;
+    bool loading_ = false;
     bool dirty_ = false;
     bool written_ = false; // as it is now
     std::uint32_t changes_ = 0;

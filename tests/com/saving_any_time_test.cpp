@@ -60,6 +60,21 @@ TEST_F(AnyTime, LoadedTwice) {
     EXPECT_TRUE(same_lines(properly(*second_bag().Get()), saved(site)));
 }
 
+TEST_F(AnyTime, LoadedInsideItsLoadingItRefuses) {
+    Site& site = bare();
+    ASSERT_EQ(S_OK, site.give_site());
+    const ComPtr<PropertyBag> bag = first_bag();
+    // It cannot be set while the program runs, other than by loading.
+    bag->put(L"ButtonStyle", long{vlToggle});
+    bag->report_to(site.log());
+    HRESULT inner = S_OK;
+    site.log().inside("IPropertyBag::Read", [&] { inner = site.load(*second_bag().Get()); });
+    EXPECT_EQ(S_OK, site.load(*bag.Get()));
+    EXPECT_EQ(E_UNEXPECTED, inner);
+    EXPECT_TRUE(same_lines(properly(*bag.Get()), saved(site)));
+    EXPECT_EQ(S_OK, site.load(*second_bag().Get()));
+}
+
 TEST_F(AnyTime, LoadedAfterItWasNew) {
     Site& site = bare();
     ASSERT_EQ(S_OK, site.give_site());
