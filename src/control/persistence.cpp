@@ -168,6 +168,8 @@ void Persistence::read_list_look(PropertyBag& bag) {
     setters_.appearance.putref_Picture(read<PictureRef>(bag, core_, u"Picture"));
     setters_.text_properties.put_LeftMargin(read<std::int32_t>(bag, core_, u"LeftMargin"));
     setters_.text_properties.put_RightMargin(read<std::int32_t>(bag, core_, u"RightMargin"));
+    // A container that uses the control while it gives the settings may have had headers built from half of them.
+    core_.parts.ListView1.clear_headers();
     setters_.columns.put_Columns(core_.state.miColumns);
     setters_.columns.put_HideColumnHeaders(read<bool>(bag, core_, u"HideColumnHeaders"));
     for (std::int32_t column = 1; column <= core_.state.miColumns; ++column) {

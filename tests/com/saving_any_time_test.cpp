@@ -1,9 +1,11 @@
 // Saving and loading at times and in an order that a host should not, and some do.
 #include "com/support/open_list_test.h"
 #include "support/container/library.h"
+#include "support/container/own_object.h"
 #include "support/container/text.h"
 
 #include <commctrl.h>
+#include <functional>
 #include <map>
 
 namespace vellora::test {
@@ -25,6 +27,24 @@ ComPtr<PropertyBag> first_bag() {
 ComPtr<PropertyBag> second_bag() {
     return bag_of({{L"Text", L"second"}, {L"Columns", std::int16_t{3}}, {L"ColumnHeader3", L"Year"}});
 }
+
+/// Gives what another bag holds, and does something of its own when it is asked for one key.
+class CallingBag final : public OwnObject<IPropertyBag> {
+public:
+    CallingBag(ComPtr<PropertyBag> values, std::wstring key, std::function<void()> action)
+        : OwnObject({IID_IPropertyBag}), values_(std::move(values)), key_(std::move(key)), action_(std::move(action)) {}
+    STDMETHODIMP Read(LPCOLESTR name, VARIANT* value, IErrorLog* log) override {
+        if (key_ == name)
+            action_();
+        return values_->Read(name, value, log);
+    }
+    STDMETHODIMP Write(LPCOLESTR name, VARIANT* value) override { return values_->Write(name, value); }
+
+private:
+    ComPtr<PropertyBag> values_;
+    std::wstring key_;
+    std::function<void()> action_;
+};
 
 /// What the control writes, in the order it writes it. Fonts are objects without a text.
 Lines saved(Site& site) {
@@ -73,6 +93,23 @@ TEST_F(AnyTime, LoadedInsideItsLoadingItRefuses) {
     EXPECT_EQ(E_UNEXPECTED, inner);
     EXPECT_TRUE(same_lines(properly(*bag.Get()), saved(site)));
     EXPECT_EQ(S_OK, site.load(*second_bag().Get()));
+}
+
+TEST_F(AnyTime, UsedInsideItsLoadingItHasTheColumnsThatAreLoaded) {
+    constexpr float loaded_width = 1500;
+    Site& site = bare();
+    ASSERT_EQ(S_OK, site.give_site());
+    const ComPtr<PropertyBag> bag = first_bag();
+    bag->put(L"ColumnWidth2", loaded_width);
+    float width = 0;
+    // Reading a width takes headers, and no width has been loaded yet.
+    HRESULT used = E_FAIL;
+    const ComPtr<IPropertyBag> using_bag(
+        new CallingBag(bag, L"ColumnHeader1", [&] { used = vellora(site)->get_ColumnWidth(1, &width); }));
+    ASSERT_EQ(S_OK, site.as<IPersistPropertyBag>()->Load(using_bag.Get(), nullptr));
+    EXPECT_EQ(S_OK, used);
+    EXPECT_EQ(S_OK, vellora(site)->get_ColumnWidth(2, &width));
+    EXPECT_EQ(loaded_width, width);
 }
 
 TEST_F(AnyTime, LoadedAfterItWasNew) {
