@@ -62,9 +62,13 @@ ComPtr<IPersistStream> persistent(IUnknown* object) {
     return found;
 }
 
-Bytes state_of(IPersistStream* object) {
+/// Nothing for an object that only looks as if it could be saved.
+std::optional<Bytes> state_of(IPersistStream* object) {
     const ComPtr<IStream> stream = memory_stream({});
-    check(object->Save(stream.Get(), FALSE));
+    const HRESULT saved = object->Save(stream.Get(), FALSE);
+    if (saved == E_NOTIMPL)
+        return std::nullopt;
+    check(saved);
     return content_of(stream.Get());
 }
 
@@ -86,11 +90,15 @@ std::optional<SettingObject> stored_object(IUnknown* object) {
         return stored;
     const ComPtr<IPersistStream> storable = persistent(object);
     CLSID class_id = CLSID_NULL;
-    if (!storable || FAILED(storable->GetClassID(&class_id)))
+    // A class of zeros is none to be made again, and would be read as Nothing.
+    if (!storable || FAILED(storable->GetClassID(&class_id)) || class_id == CLSID_NULL)
+        return std::nullopt;
+    std::optional<Bytes> state = state_of(storable.Get());
+    if (!state)
         return std::nullopt;
     static_assert(sizeof class_id == sizeof stored.class_id);
     std::memcpy(stored.class_id.data(), &class_id, sizeof class_id);
-    stored.state = state_of(storable.Get());
+    stored.state = std::move(*state);
     return stored;
 }
 

@@ -245,6 +245,40 @@ TEST(StreamStore, ObjectsWithinObjectsComeToAnEnd) {
                            .Get());
 }
 
+/// An object of a class, whose saving ends as the test wants it.
+class Stubborn final : public OwnObject<IPersistStream> {
+public:
+    Stubborn(const CLSID& id, HRESULT answer)
+        : OwnObject({IID_IPersist, IID_IPersistStream}), id_(id), answer_(answer) {}
+    STDMETHODIMP GetClassID(CLSID* id) override {
+        *id = id_;
+        return S_OK;
+    }
+    STDMETHODIMP IsDirty() override { return S_FALSE; }
+    STDMETHODIMP Load(IStream*) override { return E_NOTIMPL; }
+    STDMETHODIMP Save(IStream*, BOOL) override { return answer_; }
+    STDMETHODIMP GetSizeMax(ULARGE_INTEGER*) override { return E_NOTIMPL; }
+
+private:
+    CLSID id_;
+    HRESULT answer_;
+};
+
+HRESULT write_object(StreamStore& store, const CLSID& class_id, HRESULT answer) {
+    const ComPtr<IUnknown> object(new Stubborn(class_id, answer));
+    return com::guard([&] { store.write(u"Icons", com::Variant(object.Get()).get()); });
+}
+
+TEST(StreamStore, AnObjectThatCannotSaveItselfIsLeftOut) {
+    StreamStore store;
+    EXPECT_EQ(S_OK, write_object(store, Endless::class_id, E_NOTIMPL));
+    EXPECT_EQ("absent", value_in(store, u"Icons"));
+    EXPECT_EQ(S_OK, write_object(store, CLSID_NULL, S_OK));
+    EXPECT_EQ("absent", value_in(store, u"Icons"));
+    // One that can, and only fails this time, is not to be forgotten.
+    EXPECT_EQ(STG_E_MEDIUMFULL, write_object(store, Endless::class_id, STG_E_MEDIUMFULL));
+}
+
 TEST(StreamStore, WhatCannotBeStoredIsLeftOut) {
     StreamStore store;
     store.write(u"Text", Variant(L"x").get());
