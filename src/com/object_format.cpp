@@ -15,17 +15,17 @@ constexpr CLSID standard_font = {
 constexpr CLSID standard_picture = {
     0x0BE35204, 0x8F91, 0x11CE, {0x9D, 0xE3, 0x00, 0xAA, 0x00, 0x4B, 0xB8, 0x51}};
 
-// Of the thread: what others load at the same time is beside, not within.
+// Of the thread: what others load or save at the same time is beside, not within.
 thread_local int depth = 0;
 
-/// Objects may hold objects that are kept in the same way. Nobody's go this deep on purpose.
+/// Objects may hold objects that are kept in the same way. Nobody's go this deep on purpose, and what is saved is to be
+/// loaded again.
 class Nesting {
 public:
-    Nesting() {
-        if (++depth > deepest) {
-            --depth;
-            throw ComFailure(STG_E_DOCFILECORRUPT);
-        }
+    explicit Nesting(HRESULT too_deep) {
+        if (depth == deepest)
+            throw ComFailure(too_deep);
+        ++depth;
     }
     Nesting(const Nesting&) = delete;
     Nesting& operator=(const Nesting&) = delete;
@@ -88,6 +88,7 @@ std::optional<SettingObject> stored_object(IUnknown* object) {
     SettingObject stored;
     if (!object)
         return stored;
+    const Nesting level(STG_E_CANTSAVE);
     const ComPtr<IPersistStream> storable = persistent(object);
     CLSID class_id = CLSID_NULL;
     // A class of zeros is none to be made again, and would be read as Nothing.
@@ -105,7 +106,7 @@ std::optional<SettingObject> stored_object(IUnknown* object) {
 Variant live_object(const SettingObject& stored, StoredObjects objects) {
     if (stored.is_nothing())
         return Variant(static_cast<IUnknown*>(nullptr));
-    const Nesting level;
+    const Nesting level(STG_E_DOCFILECORRUPT);
     CLSID class_id;
     std::memcpy(&class_id, stored.class_id.data(), sizeof class_id);
     const bool is_standard = class_id == standard_font || class_id == standard_picture;

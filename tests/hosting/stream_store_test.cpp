@@ -192,12 +192,13 @@ TEST(StreamStore, AStateThatClaimsMoreThanThereIsFails) {
         com::guard([&] { com::live_object({standard_font, Bytes(size)}, StoredObjects::standard); });
 }
 
-/// An object whose saved state holds an object of its own class, and so on without end.
+/// An object whose saved state holds an object of its own class, and so on without end; it saves itself within itself.
 class Endless final : public OwnObject<IPersistStream> {
 public:
     static constexpr CLSID class_id = {
         0x3A1C9D52, 0x55B0, 0x4A7E, {0x9B, 0x1F, 0x60, 0x0C, 0x11, 0xE4, 0x72, 0xA9}};
     static int loads;
+    static int saves;
 
     Endless() : OwnObject({IID_IPersist, IID_IPersistStream}) {}
     static SettingObject stored() {
@@ -214,10 +215,14 @@ public:
         ++loads;
         return com::guard([] { com::live_object(stored(), StoredObjects::any); });
     }
-    STDMETHODIMP Save(IStream*, BOOL) override { return E_NOTIMPL; }
+    STDMETHODIMP Save(IStream*, BOOL) override {
+        ++saves;
+        return saves > 100 ? E_FAIL : com::guard([this] { com::stored_object(this); });
+    }
     STDMETHODIMP GetSizeMax(ULARGE_INTEGER*) override { return E_NOTIMPL; }
 };
 int Endless::loads = 0;
+int Endless::saves = 0;
 
 class EndlessFactory final : public OwnObject<IClassFactory> {
 public:
@@ -238,6 +243,8 @@ TEST(StreamStore, ObjectsWithinObjectsComeToAnEnd) {
               com::guard([] { com::live_object(Endless::stored(), StoredObjects::any); }));
     EXPECT_EQ(16, Endless::loads);
     EXPECT_EQ(S_OK, CoRevokeClassObject(cookie));
+    EXPECT_EQ(STG_E_CANTSAVE, com::guard([] { com::stored_object(ComPtr<Endless>(new Endless).Get()); }));
+    EXPECT_EQ(16, Endless::saves);
     // The next one starts from nothing.
     EXPECT_TRUE(com::stored_object(bold_font().Get()));
     EXPECT_NE(nullptr, com::live_object(*com::stored_object(bold_font().Get()), StoredObjects::standard)
