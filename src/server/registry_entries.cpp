@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace vellora::server {
 
@@ -37,9 +38,10 @@ std::wstring key_of(const CLSID& class_id) {
     return L"CLSID\\" + text_of(class_id);
 }
 
-std::vector<RegistryEntry> server_entries(const std::wstring& key) {
+/// What every class has.
+std::vector<RegistryEntry> server_entries(const std::wstring& key, const std::wstring& name) {
     const std::wstring server = key + L"\\InprocServer32";
-    return {{server, L"", com::module_path()}, {server, L"ThreadingModel", L"Apartment"}};
+    return {{key, L"", name}, {server, L"", com::module_path()}, {server, L"ThreadingModel", L"Apartment"}};
 }
 
 std::wstring page_name(const com::PageClass& page) {
@@ -61,11 +63,8 @@ std::vector<std::wstring> page_keys() {
 
 std::vector<RegistryEntry> page_entries() {
     std::vector<RegistryEntry> entries;
-    for (const com::PageClass& page : module().control.pages) {
-        const std::wstring key = key_of(page.class_id);
-        entries.push_back({key, L"", page_name(page)});
-        std::ranges::move(server_entries(key), std::back_inserter(entries));
-    }
+    for (const com::PageClass& page : module().control.pages)
+        std::ranges::move(server_entries(key_of(page.class_id), page_name(page)), std::back_inserter(entries));
     return entries;
 }
 
@@ -82,19 +81,21 @@ std::wstring type_library_key() {
 
 std::vector<RegistryEntry> class_entries() {
     const std::wstring key = class_key();
-    std::vector<RegistryEntry> entries = {
-        {key, L"", module().control.user_type},
-        {key + L"\\ProgID", L"", module().versioned_program_id},
-        {key + L"\\VersionIndependentProgID", L"", module().program_id},
-        {key + L"\\TypeLib", L"", text_of(module().type_library)},
-        {key + L"\\Version", L"", version()},
-        {key + L"\\MiscStatus", L"", L"0"},
-        {key + L"\\MiscStatus\\1", L"", text_of(com::misc_status)},
-        {key + L"\\ToolboxBitmap32", L"", com::module_path() + L", " + text_of(module().toolbox_bitmap)},
-        {key + L"\\Control", L"", L""},
-        {key + L"\\Programmable", L"", L""},
+    // The file comes before the rest: it tells whose the class is, and who may take the rest back.
+    std::vector<RegistryEntry> entries = server_entries(key, module().control.user_type);
+    const std::pair<const wchar_t*, std::wstring> description[] = {
+        {L"ProgID", module().versioned_program_id},
+        {L"VersionIndependentProgID", module().program_id},
+        {L"TypeLib", text_of(module().type_library)},
+        {L"Version", version()},
+        {L"MiscStatus", L"0"},
+        {L"MiscStatus\\1", text_of(com::misc_status)},
+        {L"ToolboxBitmap32", com::module_path() + L", " + text_of(module().toolbox_bitmap)},
+        {L"Control", L""},
+        {L"Programmable", L""},
     };
-    std::ranges::move(server_entries(key), std::back_inserter(entries));
+    for (const auto& [name, value] : description)
+        entries.push_back({key + L"\\" + name, L"", value});
     for (const GUID& category : {category_control, category_programmable, category_property_bag, category_memory,
                                  category_storage, category_stream_init})
         entries.push_back({key + L"\\Implemented Categories\\" + text_of(category), L"", L""});

@@ -12,19 +12,19 @@ using FailingRegistration = UnregisteredTest;
 /// A key nothing lasting can be put below, as long as the object lives.
 class VolatileKey {
 public:
-    explicit VolatileKey(HKEY root) : root_(root) {
+    explicit VolatileKey(HKEY root, const std::wstring& path = program_id) : root_(root), path_(classes + path) {
         HKEY key = nullptr;
-        EXPECT_EQ(ERROR_SUCCESS, RegCreateKeyExW(root_, path().c_str(), 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS,
+        EXPECT_EQ(ERROR_SUCCESS, RegCreateKeyExW(root_, path_.c_str(), 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS,
                                                  nullptr, &key, nullptr));
         RegCloseKey(key);
     }
     VolatileKey(const VolatileKey&) = delete;
     VolatileKey& operator=(const VolatileKey&) = delete;
-    ~VolatileKey() { RegDeleteTreeW(root_, path().c_str()); }
+    ~VolatileKey() { RegDeleteTreeW(root_, path_.c_str()); }
 
 private:
-    static std::wstring path() { return std::wstring(classes) + program_id; }
     HKEY root_;
+    std::wstring path_;
 };
 
 /// Lets everybody read the key and nobody write it, as long as the object lives.
@@ -68,6 +68,21 @@ TEST_F(FailingRegistration, TakesBackWhatWasWritten) {
         EXPECT_EQ(HRESULT_FROM_WIN32(ERROR_CHILD_MUST_BE_VOLATILE), Registrar::of_library().register_it());
         EXPECT_FALSE(has_key(HKEY_LOCAL_MACHINE, class_key()));
     }
+    EXPECT_TRUE(same_lines({}, traces()));
+}
+
+// Half of one copy and half of another would be nobody's to take back.
+TEST_F(FailingRegistration, TakesBackAllOfAClassThatAnotherCopyHad) {
+    const LibraryCopy other(L"other");
+    ASSERT_EQ(S_OK, other.registrar().register_it());
+    const std::wstring key = class_key() + L"\\MiscStatus";
+    remove_key(HKEY_LOCAL_MACHINE, key);
+    {
+        const VolatileKey obstacle(HKEY_LOCAL_MACHINE, key);
+        EXPECT_EQ(HRESULT_FROM_WIN32(ERROR_CHILD_MUST_BE_VOLATILE), Registrar::of_library().register_it());
+        EXPECT_FALSE(has_key(HKEY_LOCAL_MACHINE, class_key()));
+    }
+    EXPECT_EQ(S_OK, other.registrar().unregister_it());
     EXPECT_TRUE(same_lines({}, traces()));
 }
 
