@@ -64,7 +64,8 @@ void register_type_library(Scope scope) {
                                     : RegisterTypeLib(library.Get(), path.data(), nullptr));
 }
 
-/// Another copy of the library that is there has taken the place over.
+/// Another copy of the library that is there has taken the place over. One that cannot be reached is not: it looks like
+/// a deleted one.
 bool belongs_to_another(const std::wstring& path) {
     const auto there = identity_of(path);
     return there && there != identity_of(com::module_path());

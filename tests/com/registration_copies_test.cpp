@@ -67,6 +67,16 @@ TEST_F(RegistrationForTheMachine, OfADeletedCopyIsForgottenByAnotherOne) {
     EXPECT_TRUE(same_lines({}, traces()));
 }
 
+TEST_F(RegistrationForTheMachine, OfACopyThatCannotBeReachedIsForgottenByAnotherOne) {
+    for (const wchar_t* path : {L"Q:\\VelloraCTL\\VelloraCTL.ocx", L"\\\\nobody.invalid\\share\\VelloraCTL.ocx"}) {
+        ASSERT_EQ(S_OK, library().register_it());
+        put_value(HKEY_LOCAL_MACHINE, server_key(), path);
+        put_value(HKEY_LOCAL_MACHINE, own_type_library(), path);
+        EXPECT_EQ(S_OK, library().unregister_it());
+        EXPECT_TRUE(same_lines({}, traces()));
+    }
+}
+
 TEST_F(RegistrationForTheMachine, KnowsTheFileByItsShortNameToo) {
     const LibraryCopy copy(L"a folder with a long name");
     wchar_t short_path[MAX_PATH] = {};
