@@ -42,12 +42,13 @@ void write(Scope scope, const RegistryEntry& entry) {
 
 /// Empty when there is no such value.
 std::wstring read(Scope scope, const std::wstring& key) {
-    wchar_t text[1024] = {};
-    DWORD bytes = sizeof text;
-    if (RegGetValueW(root_of(scope), classes(key).c_str(), nullptr, RRF_RT_REG_SZ, nullptr, text, &bytes) !=
+    constexpr DWORD longest_path = 32767;
+    std::wstring text(longest_path + 1, L'\0');
+    auto bytes = static_cast<DWORD>(text.size() * sizeof(wchar_t));
+    if (RegGetValueW(root_of(scope), classes(key).c_str(), nullptr, RRF_RT_REG_SZ, nullptr, text.data(), &bytes) !=
         ERROR_SUCCESS)
         return {};
-    return text;
+    return text.c_str();
 }
 
 void remove(Scope scope, const std::wstring& key) {

@@ -89,6 +89,23 @@ TEST_F(RegistrationForTheMachine, KnowsTheFileByItsShortNameToo) {
     EXPECT_TRUE(same_lines({}, traces()));
 }
 
+TEST_F(RegistrationForTheMachine, KnowsTheFileByAVeryLongPathToo) {
+    const LibraryCopy other(L"other");
+    const std::size_t name = other.path().rfind(L'\\');
+    std::wstring path = other.path().substr(0, name);
+    while (path.size() < 2000)
+        path += L"\\.";
+    path += other.path().substr(name);
+    ASSERT_EQ(S_OK, other.registrar().register_it());
+    put_value(HKEY_LOCAL_MACHINE, server_key(), path);
+    put_value(HKEY_LOCAL_MACHINE, own_type_library(), path);
+    const ClassesSnapshot before = registered();
+    EXPECT_EQ(S_OK, library().unregister_it());
+    EXPECT_TRUE(same_lines({}, difference(before, registered())));
+    EXPECT_EQ(S_OK, other.registrar().unregister_it());
+    EXPECT_TRUE(same_lines({}, traces()));
+}
+
 TEST_F(RegistrationForTheMachine, WorksInAnyFolder) {
     const LibraryCopy copy(L"Umlaute äöü, Ελληνικά & 名前");
     EXPECT_EQ(0U, run_program(L"regsvr32 /s \"" + copy.path() + L"\""));
