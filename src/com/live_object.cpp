@@ -6,24 +6,32 @@ namespace vellora::com {
 
 namespace {
 
-std::atomic<long> uses = 0;
+std::atomic<long> objects = 0;
+std::atomic<long> locks = 0;
 
 } // namespace
 
 LiveObject::LiveObject() noexcept {
-    ++uses;
+    ++objects;
 }
 
 LiveObject::~LiveObject() {
-    --uses;
+    --objects;
 }
 
 void lock_library(bool lock) noexcept {
-    uses += lock ? 1 : -1;
+    if (lock) {
+        ++locks;
+        return;
+    }
+    // There may be more unlocks than locks.
+    long held = locks;
+    while (held > 0 && !locks.compare_exchange_weak(held, held - 1)) {
+    }
 }
 
 bool library_in_use() noexcept {
-    return uses != 0;
+    return objects != 0 || locks != 0;
 }
 
 } // namespace vellora::com

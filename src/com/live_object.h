@@ -12,7 +12,7 @@ public:
     ~LiveObject();
 };
 
-/// Keeps the library loaded without an object, or gives that up.
+/// Keeps the library loaded without an object, or gives that up; who gives up what nobody has takes nothing away.
 void lock_library(bool lock) noexcept;
 
 bool library_in_use() noexcept;

@@ -22,6 +22,17 @@ TEST(Factory, StaysLoadedWhileItIsHeldOrLocked) {
     EXPECT_EQ(S_OK, Library::instance().can_unload());
 }
 
+TEST(Factory, AnUnlockTooManyTakesNothingAway) {
+    ComPtr<IClassFactory> held = factory();
+    EXPECT_EQ(S_OK, held->LockServer(FALSE));
+    EXPECT_EQ(S_FALSE, Library::instance().can_unload());
+    EXPECT_EQ(S_OK, held->LockServer(TRUE));
+    held.Reset();
+    EXPECT_EQ(S_FALSE, Library::instance().can_unload());
+    EXPECT_EQ(S_OK, factory()->LockServer(FALSE));
+    EXPECT_EQ(S_OK, Library::instance().can_unload());
+}
+
 TEST(Factory, KnowsOneClass) {
     ComPtr<IClassFactory> none;
     EXPECT_EQ(CLASS_E_CLASSNOTAVAILABLE,
