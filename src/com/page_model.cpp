@@ -66,7 +66,7 @@ std::int32_t PageModel::count() const {
     Variant number;
     if (FAILED(convert(value(*counting, 0).get(), VT_I2, number)))
         return 0;
-    return V_I2(&number.get());
+    return std::min<std::int32_t>(V_I2(&number.get()), page_.most_numbers);
 }
 
 Variant PageModel::value(const PageMember& member, std::int32_t number) const {

@@ -22,7 +22,7 @@ public:
     const PageClass& page() const noexcept { return page_; }
     /// Stay where they are as long as the model lives; none before the first objects.
     const std::vector<PageMember>& members() const noexcept { return members_; }
-    /// How many numbers the numbered members have; 0 without any.
+    /// How many numbers the numbered members have, no more than they can have; 0 without any.
     std::int32_t count() const;
     /// The changed value, otherwise that of the first object; a value that cannot be read is empty. `number` counts
     /// from 1 and is of no interest to a member without numbers.

@@ -1,5 +1,7 @@
 #include "server/property_pages.h"
 
+#include "control/state.h"
+
 namespace vellora::server {
 
 namespace {
@@ -58,6 +60,7 @@ constexpr com::PageClass pages[] = {
      column_properties,
      numbered_column_properties,
      column_properties[0],
+     maximum_columns,
      L"Column"},
     {{0x29E50C82, 0xD779, 0x4A3A, {0xAC, 0x99, 0x8F, 0x56, 0x57, 0xC0, 0xE0, 0x31}}, L"Looks", look_properties},
 };

@@ -112,6 +112,14 @@ TEST_F(PropertyPageTest, ChangesOutlastTheTypingOfAnotherNumberOfColumns) {
     EXPECT_EQ(L"Name", header.text());
 }
 
+TEST_F(PropertyPageTest, OffersNoMoreColumnsThanThereCanBe) {
+    open(L"Columns", {&design()});
+    type(L"Columns", L"32767");
+    EXPECT_EQ(50, SendMessageW(box(L"Column"), CB_GETCOUNT, 0, 0));
+    const BoxWatcher watcher(press_ok);
+    EXPECT_EQ(E_FAIL, page_->Apply());
+}
+
 TEST_F(PropertyPageTest, WhereNoColumnIsChosenNoneIsChanged) {
     Site& site = design();
     open(L"Columns", {&site});
