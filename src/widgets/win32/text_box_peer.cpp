@@ -153,7 +153,7 @@ LRESULT TextBoxPeer::edit_message(const EditMessage& message) {
     case WM_PASTE:
         return paste(message);
     case EM_SETMARGINS:
-        return keep_margins(message);
+        return margins_.set(message);
     case WM_SIZE:
         return resize(message);
     default: {
@@ -239,46 +239,17 @@ void TextBoxPeer::note_change() {
     }
 }
 
-LRESULT TextBoxPeer::keep_margins(const EditMessage& message) {
-    if ((message.wparam & EC_LEFTMARGIN) != 0) {
-        left_margin_ = LOWORD(message.lparam);
-    }
-    if ((message.wparam & EC_RIGHTMARGIN) != 0) {
-        right_margin_ = HIWORD(message.lparam);
-    }
-    const LPARAM limited =
-        MAKELPARAM(limited_margin(LOWORD(message.lparam)), limited_margin(HIWORD(message.lparam)));
-    return edit_.pass_on({message.id, message.wparam, limited});
-}
-
-// With a margin far beyond the field the platform may look for its caret for ever. What is wider than the
-// field hides all of the text in any case.
-WORD TextBoxPeer::limited_margin(WORD margin) const {
-    RECT client{};
-    GetClientRect(edit_.handle(), &client);
-    return margin == EC_USEFONTINFO ? margin : static_cast<WORD>(std::min<LONG>(margin, client.right));
-}
-
 // Margins that follow the font depend on the field's width too.
 LRESULT TextBoxPeer::resize(const EditMessage& message) {
     const LRESULT result = edit_.pass_on(message);
-    apply_margins();
+    margins_.restore();
     return result;
 }
 
 // The platform resets the margins with every font.
 void TextBoxPeer::apply_font(HFONT font) {
     edit_.send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
-    apply_margins();
-}
-
-void TextBoxPeer::apply_margins() {
-    if (left_margin_) {
-        edit_.send(EM_SETMARGINS, EC_LEFTMARGIN, MAKELPARAM(*left_margin_, 0));
-    }
-    if (right_margin_) {
-        edit_.send(EM_SETMARGINS, EC_RIGHTMARGIN, MAKELPARAM(0, *right_margin_));
-    }
+    margins_.restore();
 }
 
 } // namespace vellora::win32

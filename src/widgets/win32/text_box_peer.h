@@ -3,6 +3,7 @@
 
 #include "runtime/system_colors.h"
 #include "widgets/text_box.h"
+#include "widgets/win32/edit_margins.h"
 #include "widgets/win32/edit_window.h"
 #include "widgets/win32/face_painter.h"
 #include "widgets/win32/lifeline.h"
@@ -12,7 +13,6 @@
 #include "widgets/win32/text_box_input.h"
 #include "widgets/win32/window_widget.h"
 
-#include <optional>
 #include <string>
 
 namespace vellora::win32 {
@@ -54,8 +54,6 @@ private:
     LRESULT edit_message(const EditMessage& message) override;
     LRESULT set_colors(HDC dc);
     LRESULT describe(const EditMessage& message);
-    LRESULT keep_margins(const EditMessage& message);
-    WORD limited_margin(WORD margin) const;
     LRESULT resize(const EditMessage& message);
     LRESULT compose(const EditMessage& message);
     LRESULT paste(const EditMessage& message);
@@ -63,7 +61,6 @@ private:
     void drop_half_character();
     void note_change();
     void apply_font(HFONT font);
-    void apply_margins();
     LRESULT first_visible_character() const;
 
     Lifeline lifeline_;
@@ -71,6 +68,7 @@ private:
     TextAlignment alignment_;
     TextBoxListener* listener_ = nullptr;
     EditWindow edit_;
+    EditMargins margins_{edit_};
     TextBoxInput input_;
     std::u16string known_text_;
     bool quiet_ = false; // changes of the moment are not reported one by one
@@ -78,8 +76,6 @@ private:
     OleColor fore_color_ = system_color::window_text;
     OleColor back_color_ = system_color::window;
     ColorBrush background_;
-    std::optional<WORD> left_margin_; // as EM_SETMARGINS brought them
-    std::optional<WORD> right_margin_;
     FontInUse font_{[this](HFONT font, bool) { apply_font(font); }};
 };
 
