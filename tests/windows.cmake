@@ -31,6 +31,11 @@ target_include_directories(list_reader PRIVATE ${tests_dir})
 target_link_libraries(list_reader PRIVATE vellora_options ${host_libraries} oleacc)
 add_dependencies(com_tests list_reader)
 
+# package/: sums of files, where the platform's own program for them does nothing.
+add_executable(certutil ${tests_dir}/support/certutil/main.cpp)
+target_link_libraries(certutil PRIVATE vellora_options advapi32)
+target_link_options(certutil PRIVATE -municode)
+
 include(${tests_dir}/hosting/hosting.cmake)
 
 # screen/: a form that the Python tests drive line by line.

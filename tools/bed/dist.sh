@@ -1,9 +1,10 @@
-# What is given away: the stripped library in dist/ARCH, beside it its symbols and
-# the manifest for using it without registration.
+# What is given away: the stripped library in dist/ARCH, beside it its symbols, its
+# type library and the manifest for using it without registration.
 # shellcheck shell=bash
 
 LIBRARY=VelloraCTL.ocx
 MANIFEST=VelloraCTL.manifest
+TYPE_LIBRARY=VelloraCTL.tlb
 LIBRARY_BYTES=$((600 * 1024))
 
 # What every Windows has; anything else would have to be delivered with it.
@@ -14,7 +15,8 @@ fill_dist() {
     local arch=$1 built=$VELLORA_ROOT/build/$1/$LIBRARY folder=$VELLORA_ROOT/dist/$1
     [ -f "$built" ] || { say "build/$arch/$LIBRARY was not made."; return 1; }
     mkdir -p -- "$folder"
-    fill_manifest "${built%/*}/$MANIFEST" "$folder/$MANIFEST"
+    fill_file "${built%/*}/$MANIFEST" "$folder/$MANIFEST"
+    fill_file "${built%/*}/idl/$TYPE_LIBRARY" "$folder/$TYPE_LIBRARY"
     if [ "$folder/$LIBRARY" -nt "$built" ] && [ -f "$folder/$LIBRARY.debug" ]; then return 0; fi
     local making=$folder/.making
     remove_tree "$making"
@@ -29,7 +31,7 @@ fill_dist() {
     remove_tree "$making"
 }
 
-fill_manifest() {
+fill_file() {
     cmp -s -- "$1" "$2" || { cp -- "$1" "$2.making" && mv -f -- "$2.making" "$2"; }
 }
 

@@ -26,6 +26,9 @@ usage: ./vellora COMMAND
                                 plays itself and leaves pictures
   bench [SUBJECT...]            run the benchmark; typing, sorting and so on,
                                 all of it without a name
+  package                       make dist/VelloraCTL-VERSION.zip for a download; the
+                                same commit gives the same bytes
+  pictures [NAME...]            take the pictures of the documents anew
   help                          this text
 
 The whole output of the last run's tests is in build/results. Runs have prefixes

@@ -45,7 +45,7 @@ keep_results() {
 
 release_seat() {
     local prefix arch GENERATION
-    for prefix in "$1"/x*-*; do
+    for prefix in "$1"/x*-* "$1"/package/x*-*; do
         [ -d "$prefix" ] || continue
         arch=${prefix##*/}
         # shellcheck disable=SC2034

@@ -20,6 +20,7 @@ ring_com() {
         fi
     done
     ring_samples "$arch"
+    ring_package "$arch"
     manage_windows "$arch" Y
 }
 

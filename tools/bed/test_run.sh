@@ -79,6 +79,7 @@ run_rings() {
     if with_ring native; then run_ring native native; fi
     ring_needs_bed || return 0
     ! with_ring com || scripts_of_documents || count 0 1 0
+    ! with_ring com || package_begin
     if [ ${#TEST_ARCHES[@]} -eq 1 ] || [ -n "$RUN_KEPT" ]; then
         for arch in "${TEST_ARCHES[@]}"; do run_arch "$arch" com screen; done
         return 0
