@@ -52,7 +52,10 @@ Variant handle_value(HIMAGELIST images) {
 
 ImageListObject::ImageListObject(int size, std::vector<std::wstring> image_keys,
                                  const std::vector<COLORREF>& colors)
-    : keys(std::move(image_keys)), images_(make_images(size, colors)) {
+    : ImageListObject(make_images(size, colors), std::move(image_keys)) {}
+
+ImageListObject::ImageListObject(HIMAGELIST images, std::vector<std::wstring> image_keys)
+    : keys(std::move(image_keys)), images_(images) {
     list_images_->indexed(L"Item", [this](const std::vector<Variant>& indexes) {
         return item ? item(indexes.at(0)) : find(indexes.at(0));
     });

@@ -18,6 +18,8 @@ class ImageListObject {
 public:
     /// Squares of `size` pixels with a border; `colors` gives one image each, `keys` their keys.
     ImageListObject(int size, std::vector<std::wstring> keys, const std::vector<COLORREF>& colors);
+    /// Takes images that are there, and owns them from now on.
+    ImageListObject(HIMAGELIST images, std::vector<std::wstring> keys);
     ~ImageListObject();
     ImageListObject(const ImageListObject&) = delete;
     ImageListObject& operator=(const ImageListObject&) = delete;

@@ -86,15 +86,27 @@ PICTDESC describe(const std::string& kind, SIZE size) {
     return description;
 }
 
-} // namespace
-
-ComPtr<IDispatch> make_picture(const std::string& kind, SIZE pixels) {
-    PICTDESC description = describe(kind, pixels);
+ComPtr<IDispatch> picture_of(PICTDESC description) {
     ComPtr<IPictureDisp> picture;
     if (description.picType != static_cast<UINT>(PICTYPE_UNINITIALIZED))
         OleCreatePictureIndirect(&description, IID_IPictureDisp, TRUE,
                                  reinterpret_cast<void**>(picture.GetAddressOf()));
     return picture;
+}
+
+} // namespace
+
+ComPtr<IDispatch> make_picture(const std::string& kind, SIZE pixels) {
+    return picture_of(describe(kind, pixels));
+}
+
+ComPtr<IDispatch> load_picture(const std::wstring& path) {
+    PICTDESC description{};
+    description.cbSizeofstruct = sizeof description;
+    description.bmp.hbitmap =
+        static_cast<HBITMAP>(LoadImageW(nullptr, path.c_str(), IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE));
+    description.picType = static_cast<UINT>(description.bmp.hbitmap ? PICTYPE_BITMAP : PICTYPE_UNINITIALIZED);
+    return picture_of(description);
 }
 
 } // namespace vellora::test

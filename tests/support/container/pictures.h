@@ -13,4 +13,7 @@ namespace vellora::test {
 /// frame. Null for another kind. An icon has the platform's own size.
 Microsoft::WRL::ComPtr<IDispatch> make_picture(const std::string& kind, SIZE pixels);
 
+/// A bitmap from a file; null when it cannot be read.
+Microsoft::WRL::ComPtr<IDispatch> load_picture(const std::wstring& path);
+
 } // namespace vellora::test

@@ -159,6 +159,7 @@ Json carry_out(HostForm& host, const Json& command) {
     static const std::map<std::string, Command> commands = {{"create", create},
                                                             {"edit", create_edit},
                                                             {"combo", create_combo},
+                                                            {"window", create_window},
                                                             {"portrait", create_portrait},
                                                             {"system_colors", set_system_colors},
                                                             {"get_system_colors", get_system_colors},

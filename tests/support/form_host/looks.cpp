@@ -69,6 +69,17 @@ Json create_combo(HostForm& host, const Json& command) {
     return nullptr;
 }
 
+Json create_window(HostForm& host, const Json& command) {
+    const std::wstring class_name = wide(command.must("class").text());
+    const Json& style = command.get("style");
+    HWND window = create_child(host, class_name.c_str(), style.is_null() ? 0 : static_cast<DWORD>(style.number()),
+                               to_rect(command.must("place")));
+    SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font_handle(command.must("font"))), TRUE);
+    send_text(window, WM_SETTEXT, command.must("text"));
+    host.adopt_window(command.must("name").text(), window);
+    return nullptr;
+}
+
 Json create_portrait(HostForm& host, const Json& command) {
     const std::string& name = command.must("control").text();
     RECT shown{};

@@ -9,6 +9,8 @@ namespace vellora::test {
 
 /// A combo box of the platform with an edit field, in the font that new controls get.
 Json create_combo(HostForm& host, const Json& command);
+/// Any other window of the platform: a label, a text field, a button.
+Json create_window(HostForm& host, const Json& command);
 /// Shows what the control draws of itself for a container that asks for a picture.
 Json create_portrait(HostForm& host, const Json& command);
 Json get_system_colors(HostForm& host, const Json& command);

@@ -8,6 +8,7 @@
 
 #include <cmath>
 #include <map>
+#include <memory>
 
 namespace vellora::test {
 namespace {
@@ -19,6 +20,24 @@ Variant image_list(int size) {
         lists.try_emplace(size, size, std::vector<std::wstring>{L"red", L"green", L"blue"},
                           std::vector<COLORREF>{RGB(255, 0, 0), RGB(0, 128, 0), RGB(0, 0, 255)});
     return found->second.object().Get();
+}
+
+// Images of 16 pixels from files, by their keys.
+Variant images_from_files(const Json& files) {
+    static std::vector<std::unique_ptr<ImageListObject>> lists;
+    constexpr int size = 16;
+    std::vector<std::wstring> keys;
+    HIMAGELIST images = ImageList_Create(size, size, ILC_COLOR24 | ILC_MASK, 0, 4);
+    for (const auto& [key, path] : files.object()) {
+        HBITMAP bitmap = static_cast<HBITMAP>(
+            LoadImageW(nullptr, wide(path.text()).c_str(), IMAGE_BITMAP, size, size, LR_LOADFROMFILE));
+        if (!bitmap)
+            throw JsonError("no bitmap in " + path.text());
+        ImageList_AddMasked(images, bitmap, RGB(255, 0, 255));
+        DeleteObject(bitmap);
+        keys.push_back(wide(key));
+    }
+    return lists.emplace_back(std::make_unique<ImageListObject>(images, keys))->object().Get();
 }
 
 Variant typed(const Json& value) {
@@ -37,6 +56,10 @@ Variant typed(const Json& value) {
                             {static_cast<LONG>(size.at(1).number()), static_cast<LONG>(size.at(2).number())})
             .Get();
     }
+    if (kind == "picture_file")
+        return load_picture(wide(content.text())).Get();
+    if (kind == "images")
+        return images_from_files(content);
     if (kind == "nothing")
         return static_cast<IDispatch*>(nullptr);
     if (kind == "image_list")
