@@ -48,6 +48,7 @@ python_suite() {
         printf '    the tests ended early with code %d\n' "$code"
         return 0
     fi
+    # shellcheck disable=SC2034
     while read -r suite passed failed skipped seconds; do
         suite_line "$arch" "$name" "$passed" "$failed" "$skipped" "$seconds"
     done < <(python3 "$VELLORA_ROOT/tools/bed/screen_run.py" --lines "$results")
