@@ -10,39 +10,39 @@ set "HELP="
 if "%~1"=="/?" set "HELP=yes"
 if defined HELP goto :usage
 call "%~dp0steps.cmd" read_options %*
-if errorlevel 1 goto :usage
+if not "%CODE%"=="0" goto :usage
 call "%~dp0steps.cmd" find_system
 call "%~dp0steps.cmd" check_files
-if errorlevel 1 exit /b %ERRORLEVEL%
+if not "%CODE%"=="0" exit /b %CODE%
 if defined CHECK goto :checked
 call "%~dp0steps.cmd" check_rights
-if errorlevel 1 exit /b %ERRORLEVEL%
+if not "%CODE%"=="0" exit /b %CODE%
 call "%~dp0steps.cmd" find_earlier
 if defined HERE goto :register
 
 call "%~dp0steps.cmd" tidy_up
 call "%~dp0steps.cmd" check_free
-if errorlevel 1 exit /b %ERRORLEVEL%
+if not "%CODE%"=="0" exit /b %CODE%
 call "%~dp0steps.cmd" copy_files
-if errorlevel 1 exit /b %ERRORLEVEL%
+if not "%CODE%"=="0" exit /b %CODE%
 call "%~dp0steps.cmd" put_in_place
-if errorlevel 1 exit /b %ERRORLEVEL%
+if not "%CODE%"=="0" exit /b %CODE%
 set "BASE=%TARGET%\"
 
 :register
 call "%~dp0steps.cmd" register_all
-if errorlevel 1 goto :undo
+if not "%CODE%"=="0" goto :undo
 if not defined HERE call "%~dp0steps.cmd" remove_copy "%TARGET%.old"
 echo VelloraCTL @VERSION@ is installed %SCOPE% in "%BASE%". Registered: %BITNESSES%.
 exit /b 0
 
 :undo
-set "CODE=%ERRORLEVEL%"
+set "FAILED=%CODE%"
 call "%~dp0steps.cmd" unregister_all
 if not defined HERE call "%~dp0steps.cmd" put_back
 call "%~dp0steps.cmd" register_earlier
 echo Nothing was changed.
-exit /b %CODE%
+exit /b %FAILED%
 
 :checked
 echo The files are whole.

@@ -1,7 +1,8 @@
 @echo off
-rem The steps of install.cmd and uninstall.cmd: call steps.cmd STEP [ARGUMENTS]. A step that fails says why and ends
-rem with one of these codes: 3 a file is missing or damaged, 4 rights are missing, 5 the library is in use, 6 it could
-rem not be registered. Success is asked of the files, because not every command processor tells it in ERRORLEVEL.
+rem The steps of install.cmd and uninstall.cmd: call steps.cmd STEP [ARGUMENTS]. A step sets CODE, to 0 when all is well.
+rem One that fails says why: 2 an unknown option, 3 a file is missing or damaged, 4 rights are missing, 5 the library is
+rem in use, 6 it could not be registered. Not every command processor tells such things in ERRORLEVEL.
+set "CODE=0"
 set "STEP=%~1"
 shift
 goto :%STEP%
@@ -17,7 +18,8 @@ if /i "%~1"=="/user" goto :option_user
 if /i "%~1"=="/here" goto :option_here
 if /i "%~1"=="/check" goto :option_check
 echo There is no option "%~1".
-exit /b 2
+set "CODE=2"
+exit /b 0
 :option_here
 set "HERE=yes"
 shift
@@ -54,7 +56,6 @@ exit /b 0
 rem ---- What has to be there -------------------------------------------------------------------------------------
 
 :check_files
-set "CODE=0"
 if not exist "%SOURCE%SHA256SUMS" goto :no_archive
 set "LISTED="
 for /f "usebackq tokens=2" %%F in ("%SOURCE%SHA256SUMS") do for %%B in (%BITNESSES%) do if "%%F"=="%%B/VelloraCTL.ocx" call :take_listed %%B
@@ -64,18 +65,19 @@ set "CERTUTIL=%SystemRoot%\System32\certutil.exe"
 if not exist "%CERTUTIL%" set "CERTUTIL="
 if not defined CHECK goto :check_needed
 for /f "usebackq tokens=2" %%F in ("%SOURCE%SHA256SUMS") do call :check_file %%F
-exit /b %CODE%
+exit /b 0
 :check_needed
 for %%F in (LICENSE steps.cmd uninstall.cmd) do call :check_file %%F
 for %%B in (%BITNESSES%) do for %%E in (ocx tlb manifest) do call :check_file %%B/VelloraCTL.%%E
-exit /b %CODE%
+exit /b 0
 
 :take_listed
 if defined LISTED (set "LISTED=%LISTED% %1") else (set "LISTED=%1")
 exit /b 0
 :no_archive
 echo The file SHA256SUMS is missing beside install.cmd, or lists nothing for this machine. Unpack the whole archive.
-exit /b 3
+set "CODE=3"
+exit /b 0
 
 :check_file
 set "FILE=%~1"
@@ -85,7 +87,7 @@ if not defined CERTUTIL exit /b 0
 set "WANTED=" & set "FOUND="
 for /f "usebackq tokens=1,2" %%S in ("%SOURCE%SHA256SUMS") do if "%%T"=="%~1" set "WANTED=%%S"
 for /f "skip=1 delims=" %%S in ('%CERTUTIL% -hashfile "%SOURCE%%FILE%" SHA256 2^>nul') do call :take_sum "%%S"
-if not defined FOUND exit /b 0
+if not defined FOUND goto :no_sums
 if /i "%FOUND%"=="%WANTED%" exit /b 0
 echo The file "%FILE%" is damaged: its checksum is not the one in SHA256SUMS. Download the archive again.
 set "CODE=3"
@@ -93,6 +95,9 @@ exit /b 0
 :file_missing
 echo The file "%FILE%" is missing. Unpack the whole archive.
 set "CODE=3"
+exit /b 0
+:no_sums
+set "CERTUTIL="
 exit /b 0
 rem Windows 7 puts spaces between the bytes.
 :take_sum
@@ -105,7 +110,7 @@ exit /b 0
 set "CODE=3"
 for %%B in (x86 x64) do if exist "%BASE%%%B\VelloraCTL.ocx" set "CODE=0"
 if not "%CODE%"=="0" echo VelloraCTL is not installed %SCOPE%: there is no library in "%BASE%".
-exit /b %CODE%
+exit /b 0
 
 :check_rights
 set "PROBE=%ROOT%\Software\Classes\VelloraCTL.Setup"
@@ -121,18 +126,21 @@ exit /b 0
 :no_rights
 echo There are no rights to change "%TARGET%" or the registry %SCOPE%. Nothing was changed.
 if "%ROOT%"=="HKLM" echo Start a command prompt as administrator and try again, or use the option /user.
-exit /b 4
+set "CODE=4"
+exit /b 0
 
 rem A library that a program has loaded cannot be opened for writing. Nothing is written.
 :check_free
 set "HELD="
-for %%B in (x86 x64) do if exist "%TARGET%\%%B\VelloraCTL.ocx" call :check_free_file "%TARGET%\%%B\VelloraCTL.ocx"
+for %%B in (x86 x64) do if exist "%TARGET%\%%B\VelloraCTL.ocx" call :check_free_file "%TARGET%\%%B\VelloraCTL.ocx" 2>nul
 if not defined HELD exit /b 0
 echo The file "%HELD%" is in use. End the programs that have it loaded and try again. Nothing was changed.
-exit /b 5
+echo The command "tasklist /m VelloraCTL.ocx" tells which they are.
+set "CODE=5"
+exit /b 0
 :check_free_file
 set "FREE="
-2>nul (>>"%~1" set "FREE=yes")
+>>"%~1" set "FREE=yes"
 if not defined FREE set "HELD=%~1"
 exit /b 0
 
@@ -146,7 +154,6 @@ if exist "%TARGET%" (call :remove_copy "%TARGET%.old") else (move "%TARGET%.old"
 exit /b 0
 
 :copy_files
-set "CODE=0"
 md "%TARGET%.new" >nul 2>&1
 for %%F in (LICENSE steps.cmd uninstall.cmd) do call :copy_file "%SOURCE%%%F" "%TARGET%.new\%%F"
 for %%B in (%BITNESSES%) do md "%TARGET%.new\%%B" >nul 2>&1
@@ -154,7 +161,7 @@ for %%B in (%BITNESSES%) do for %%E in (ocx tlb manifest) do call :copy_file "%S
 if "%CODE%"=="0" exit /b 0
 echo The files could not be copied to "%TARGET%.new". Make room on that disk and try again. Nothing was changed.
 call :remove_copy "%TARGET%.new"
-exit /b %CODE%
+exit /b 0
 :copy_file
 copy /y "%~1" "%~2" >nul 2>&1
 set "COPIED="
@@ -171,7 +178,8 @@ if exist "%TARGET%.old" move "%TARGET%.old" "%TARGET%" >nul 2>&1
 :not_moved
 call :remove_copy "%TARGET%.new"
 echo A file in "%TARGET%" is in use. End the programs that have it open and try again. Nothing was changed.
-exit /b 5
+set "CODE=5"
+exit /b 0
 
 :put_back
 call :remove_copy "%TARGET%"
@@ -196,7 +204,6 @@ exit /b 0
 
 rem The libraries go together or not at all.
 :remove_libraries
-set "CODE=0"
 md "%TARGET%\kept" >nul 2>&1
 for %%B in (x86 x64) do if exist "%TARGET%\%%B\VelloraCTL.ocx" call :remove_library %%B
 if "%CODE%"=="0" goto :forget_kept
@@ -204,7 +211,7 @@ for %%B in (x86 x64) do if exist "%TARGET%\kept\%%B.ocx" if not exist "%TARGET%\
 :forget_kept
 del /q "%TARGET%\kept\x86.ocx" "%TARGET%\kept\x64.ocx" >nul 2>&1
 rd "%TARGET%\kept" >nul 2>&1
-exit /b %CODE%
+exit /b 0
 :remove_library
 copy /y "%TARGET%\%1\VelloraCTL.ocx" "%TARGET%\kept\%1.ocx" >nul 2>&1
 del /q "%TARGET%\%1\VelloraCTL.ocx" >nul 2>&1
@@ -217,16 +224,15 @@ rem ---- The registry ----------------------------------------------------------
 
 rem run_regsvr32 BITNESS FILE OPTIONS - sets RESULT.
 :run_regsvr32
-set "RESULT=1"
-if "%~1"=="x86" "%NARROW%\regsvr32.exe" %~3 "%~2"
-if "%~1"=="x64" "%WIDE%\regsvr32.exe" %~3 "%~2"
+set "PROGRAM=%NARROW%\regsvr32.exe"
+if "%~1"=="x64" set "PROGRAM=%WIDE%\regsvr32.exe"
+"%PROGRAM%" %~3 "%~2"
 set "RESULT=%ERRORLEVEL%"
 exit /b 0
 
 :register_all
-set "CODE=0"
 for %%B in (%BITNESSES%) do if exist "%BASE%%%B\VelloraCTL.ocx" call :register_one %%B
-exit /b %CODE%
+exit /b 0
 :register_one
 if not "%CODE%"=="0" exit /b 0
 call :run_regsvr32 %1 "%BASE%%1\VelloraCTL.ocx" "%OPTIONS%"
@@ -242,9 +248,8 @@ for %%B in (%BITNESSES%) do if exist "%BASE%%%B\VelloraCTL.ocx" call :run_regsvr
 exit /b 0
 
 :forget_all
-set "CODE=0"
 for %%B in (%BITNESSES%) do if exist "%BASE%%%B\VelloraCTL.ocx" call :forget_one %%B
-exit /b %CODE%
+exit /b 0
 :forget_one
 if not "%CODE%"=="0" exit /b 0
 call :run_regsvr32 %1 "%BASE%%1\VelloraCTL.ocx" "%OPTIONS_OFF%"

@@ -9,25 +9,25 @@ set "HELP="
 if "%~1"=="/?" set "HELP=yes"
 if defined HELP goto :usage
 call "%~dp0steps.cmd" read_options %*
-if errorlevel 1 goto :usage
+if not "%CODE%"=="0" goto :usage
 if defined CHECK goto :usage
 call "%~dp0steps.cmd" find_system
 if not defined HERE set "BASE=%TARGET%\"
 call "%~dp0steps.cmd" find_installed
-if errorlevel 1 exit /b %ERRORLEVEL%
+if not "%CODE%"=="0" exit /b %CODE%
 call "%~dp0steps.cmd" check_rights
-if errorlevel 1 exit /b %ERRORLEVEL%
+if not "%CODE%"=="0" exit /b %CODE%
 call "%~dp0steps.cmd" find_earlier
 if defined HERE goto :unregister
 call "%~dp0steps.cmd" check_free
-if errorlevel 1 exit /b %ERRORLEVEL%
+if not "%CODE%"=="0" exit /b %CODE%
 
 :unregister
 call "%~dp0steps.cmd" forget_all
-if errorlevel 1 goto :undo
+if not "%CODE%"=="0" goto :undo
 if defined HERE goto :done
 call "%~dp0steps.cmd" remove_libraries
-if errorlevel 1 goto :undo
+if not "%CODE%"=="0" goto :undo
 call "%~dp0steps.cmd" remove_files "%TARGET%"
 
 :done
@@ -36,10 +36,10 @@ rem A script that removes itself must have been read to its end: all of this is 
 if defined HERE (exit /b 0) else (cd /d "%SystemRoot%" & del "%TARGET%\steps.cmd" "%TARGET%\uninstall.cmd" 2>nul & rd "%TARGET%" 2>nul & exit /b 0)
 
 :undo
-set "CODE=%ERRORLEVEL%"
+set "FAILED=%CODE%"
 call "%~dp0steps.cmd" register_earlier
 echo Nothing was changed.
-exit /b %CODE%
+exit /b %FAILED%
 
 :usage
 echo Usage: uninstall.cmd [/user] [/here]

@@ -31,7 +31,9 @@ target_include_directories(list_reader PRIVATE ${tests_dir})
 target_link_libraries(list_reader PRIVATE vellora_options ${host_libraries} oleacc)
 add_dependencies(com_tests list_reader)
 
-# package/: sums of files, where the platform's own program for them does nothing.
+# package/: a program that has the library in use, and sums of files, where the platform's own program does nothing.
+add_executable(library_holder ${tests_dir}/support/library_holder/main.cpp)
+target_link_libraries(library_holder PRIVATE vellora_options vellora_idl ${host_libraries})
 add_executable(certutil ${tests_dir}/support/certutil/main.cpp)
 target_link_libraries(certutil PRIVATE vellora_options advapi32)
 target_link_options(certutil PRIVATE -municode)

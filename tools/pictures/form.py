@@ -22,9 +22,10 @@ def smooth_letters(dpi):
 class PictureForm:
     """Places are in pixels at 96 dots per inch."""
 
-    def __init__(self, title, width, height, dpi=96):
+    def __init__(self, title, width, height, dpi=96, font=None):
         smooth_letters(dpi)
         self.dpi = dpi
+        self.font = font or FONT
         self.host = FormHost("--styled", title=title, dpi=dpi)
         xdotool("windowsize", "--sync", self.host.x_window, self.scaled(width), self.scaled(height))
         self.host.activate()
@@ -42,7 +43,7 @@ class PictureForm:
         return [self.scaled(length) for length in (x, y, width, height)]
 
     def window(self, name, kind, place, text="", style=0):
-        self.host.do("window", name=name, **{"class": kind}, place=self.place(*place), text=text, font=FONT,
+        self.host.do("window", name=name, **{"class": kind}, place=self.place(*place), text=text, font=self.font,
                      style=style)
 
     def label(self, text, x, y, width=200):
@@ -57,7 +58,7 @@ class PictureForm:
     def combo(self, place, columns, rows, name="Vellora1", bag=None, objects=None, **properties):
         """A filled control. `columns` are captions, or pairs of caption and width in twips."""
         self.host.create(name, self.place(*place), bag=bag and {"Columns": len(columns), **bag})
-        for member, value in {"Font": {"font": FONT}, **(objects or {})}.items():
+        for member, value in {"Font": {"font": self.font}, **(objects or {})}.items():
             self.host.set(name, member, value)
         self.host.put(name, "Columns", len(columns))
         for number, column in enumerate(columns, 1):
@@ -76,16 +77,15 @@ class PictureForm:
 
     def frame(self):
         """The form with its caption, as "WIDTHxHEIGHT+X+Y" on the screen."""
-        told = subprocess.run(["xwininfo", "-frame", "-id", str(self.host.x_window)], check=True,
+        told = subprocess.run(["xprop", "-id", str(self.host.x_window), "_NET_FRAME_EXTENTS"], check=True,
                               capture_output=True, text=True).stdout
-        values = {key: int(re.search(rf"{key}:\s+(-?\d+)", told)[1])
-                  for key in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")}
-        x, y, width, height = values.values()
-        return f"{width}x{height}+{x}+{y}"
+        left, right, top, bottom = map(int, re.search(r"= (.*)", told)[1].split(", "))
+        x, y, end, below = self.host.rect("inside")
+        return f"{end - x + left + right}x{below - y + top + bottom}+{x - left}+{y - top}"
 
     def take(self, path, mouse=NOWHERE):
         move(mouse)
         self.host.settle()
         photograph(path, self.frame())
-        subprocess.run(["mogrify", "-strip", "-colors", "255", "-define", "png:compression-level=9", path],
+        subprocess.run(["mogrify", "-strip", "+dither", "-colors", "255", "-define", "png:compression-level=9", path],
                        check=True)

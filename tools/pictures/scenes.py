@@ -22,17 +22,17 @@ RIGHT = 1
 
 def vellora(take):
     """The one on the first page."""
-    with PictureForm("Travel request", 470, 330) as form, tempfile.TemporaryDirectory() as folder:
-        form.label("Traveller", 16, 16)
-        form.field("Mira Hofmann", 120, 12, 180)
-        form.label("Destinations", 16, 50)
-        form.label("From", 16, 84)
-        form.field("2024-06-03", 120, 80, 90)
-        form.label("Until", 16, 118)
-        form.field("2024-06-21", 120, 114, 90)
-        form.button("Send", 290, 290)
-        form.button("Cancel", 376, 290)
-        form.combo((120, 46, 336, 24), ["Country", "Capital", "Inhabitants", "Currency"],
+    with PictureForm("Travel request", 500, 322) as form, tempfile.TemporaryDirectory() as folder:
+        form.label("Traveller", 16, 18, 80)
+        form.field("Mira Hofmann", 100, 14, 180)
+        form.label("From", 16, 50, 80)
+        form.field("2024-06-03", 100, 46, 90)
+        form.label("until", 204, 50, 40)
+        form.field("2024-06-21", 244, 46, 90)
+        form.label("Destinations", 16, 82, 80)
+        form.button("Send", 320, 284)
+        form.button("Cancel", 406, 284)
+        form.combo((100, 78, 386, 24), ["Country", "Capital", "Inhabitants", "Currency"],
                    [[*row[:2], f"{row[2]} million", row[3]] for row in COUNTRIES],
                    bag={"CheckBoxes": -1, "ButtonStyle": 1}, AutoSize=EVERY_TEXT, AllowResize=True,
                    AutoComplete=True, DropDownHeight={"single": 8},
@@ -47,7 +47,7 @@ def vellora(take):
 
 
 def fill_a_list(take):
-    with PictureForm("Orders", 440, 230) as form:
+    with PictureForm("Orders", 440, 180) as form:
         form.label("Order", 16, 20)
         form.combo((80, 16, 344, 24), ["Number", "Customer", "Date", "Amount"], ORDERS, AutoSize=EVERY_TEXT,
                    TextColumn=2)
@@ -57,19 +57,19 @@ def fill_a_list(take):
 
 
 def headers_and_widths(take):
-    with PictureForm("Orders", 440, 230) as form:
+    with PictureForm("Orders", 456, 180) as form:
         form.label("Order", 16, 20)
-        form.combo((80, 16, 160, 24), [("Number", 900), ("Customer", 2300), ("Date", 1200), ("Amount", 675)], ORDERS,
-                   GridLines=True, TextColumn=2, DropDownWidthOffset={"single": 184 * 15})
+        form.combo((80, 16, 160, 24), [("Number", 900), ("Customer", 2200), ("Date", 1150), ("Amount", 1000)], ORDERS,
+                   GridLines=True, TextColumn=2, DropDownWidthOffset={"single": 200 * 15})
         form.host.put("Vellora1", "ListIndex", 0)
         form.open()
         take(form)
 
 
 def sort_by_header(take):
-    with PictureForm("Countries", 400, 260) as form, tempfile.TemporaryDirectory() as folder:
+    with PictureForm("Countries", 400, 230) as form, tempfile.TemporaryDirectory() as folder:
         form.label("Country", 16, 20)
-        form.combo((80, 16, 304, 24), [("Country", 1700), ("Capital", 1800), ("Currency", 1000)],
+        form.combo((80, 16, 304, 24), [("Country", 1650), ("Capital", 1750), ("Currency", 1000)],
                    [[row[0], row[1], row[3]] for row in COUNTRIES], DropDownHeight={"single": 10},
                    objects={"HeaderIcons": {"images": draw_icons(folder, ("up", "down"))}})
         form.host.put("Vellora1", "SortColumn", 2)
@@ -80,7 +80,7 @@ def sort_by_header(take):
 
 
 def check_boxes(take):
-    with PictureForm("Ensemble", 330, 200) as form:
+    with PictureForm("Ensemble", 330, 160) as form:
         form.label("Instruments", 16, 20)
         form.combo((110, 16, 204, 24), ["Instrument"], INSTRUMENTS, bag={"CheckBoxes": -1}, AutoSize=EVERY_TEXT)
         for row in (0, 2, 3):
@@ -91,9 +91,9 @@ def check_boxes(take):
 
 
 def icons_and_picture(take):
-    with PictureForm("Countries", 400, 250) as form, tempfile.TemporaryDirectory() as folder:
+    with PictureForm("Countries", 400, 220) as form, tempfile.TemporaryDirectory() as folder:
         form.label("Country", 16, 20)
-        form.combo((80, 16, 304, 24), [("Country", 1700), ("Capital", 1700), ("Millions", 1000)],
+        form.combo((80, 16, 304, 24), [("Country", 1500), ("Capital", 1550), ("Millions", 1100)],
                    [row[:3] for row in COUNTRIES], DropDownHeight={"single": 9},
                    objects={"HeaderIcons": {"images": draw_icons(folder, ("globe", "house", "people"))},
                             "Picture": {"picture_file": draw_leaf(folder)}})
@@ -128,7 +128,7 @@ def resizable_list(take):
 
 
 def right_to_left(take):
-    with PictureForm("Calendar", 330, 210) as form:
+    with PictureForm("Calendar", 330, 180, font=["Tahoma", 9]) as form:
         form.combo((16, 16, 200, 24), ["فارسی", "العربية"], [[b, a] for a, b in DAYS], Alignment=RIGHT, TextColumn=2,
                    AutoSize=EVERY_TEXT)
         form.label("يوم الأسبوع", 230, 20, 80)
@@ -138,9 +138,9 @@ def right_to_left(take):
 
 
 def high_dpi(take):
-    with PictureForm("Orders", 440, 230, dpi=144) as form:
+    with PictureForm("Orders", 440, 180, dpi=144) as form:
         form.label("Order", 16, 20)
-        form.combo((80, 16, 344, 24), [("Number", 900), ("Customer", 2000), ("Date", 1200), ("Amount", 900)], ORDERS,
+        form.combo((80, 16, 344, 24), [("Number", 900), ("Customer", 1950), ("Date", 1150), ("Amount", 1000)], ORDERS,
                    TextColumn=2, GridLines=True)
         form.host.put("Vellora1", "ListIndex", 2)
         form.open()
@@ -158,7 +158,7 @@ def told(event):
 
 
 def events_in_order(take):
-    with PictureForm("What happens", 330, 190) as form:
+    with PictureForm("What happens", 330, 150) as form:
         form.label("Country", 16, 20)
         form.combo((80, 16, 234, 24), ["Country"], [row[0] for row in COUNTRIES], AutoComplete=True)
         form.label("Events", 16, 54)
@@ -168,21 +168,21 @@ def events_in_order(take):
         form.host.click(form.host.middle("row", index=3))
         wait_for(lambda: not form.host.floating(), "the list to close")
         lines = [told(event) for event in form.host.events()]
-        form.window("log", "Edit", (80, 50, 234, 124), "\r\n".join(lines), LOG_STYLE)
+        form.window("log", "Edit", (80, 50, 234, 84), "\r\n".join(lines), LOG_STYLE)
         take(form)
 
 
 def saving(take):
-    with PictureForm("Property page", 430, 330) as form:
+    with PictureForm("Property page", 430, 315) as form:
         form.combo((10, 16, 200, 24), ["Country", "Capital"], [], AllowResize=True)
         form.host.do("page", control="Vellora1", page=1)
         take(form)
 
 
 def accessibility_and_keys(take):
-    with PictureForm("Countries", 400, 250) as form:
+    with PictureForm("Countries", 400, 210) as form:
         form.label("Country", 16, 20)
-        form.combo((80, 16, 304, 24), [("Country", 1700), ("Capital", 1700), ("Currency", 1000)],
+        form.combo((80, 16, 304, 24), [("Country", 1500), ("Capital", 1550), ("Currency", 1050)],
                    [[row[0], row[1], row[3]] for row in COUNTRIES], AllowColumnReorder=True, AllowResize=True)
         form.open()
         form.host.key("F6", "Right")

@@ -1,29 +1,22 @@
 """A machine to install on: a Wine prefix of its own, in which nothing of the library is registered."""
+import contextlib
 import os
 import pathlib
 import re
 import shutil
 import subprocess
-import time
 import zipfile
 
 ROOT = pathlib.Path(os.environ["VELLORA_ROOT"])
 ARCH = os.environ["VELLORA_ARCH"]
 PACKAGES = pathlib.Path(os.environ["VELLORA_PACKAGES"])
 PREFIX = pathlib.Path(os.environ["VELLORA_PREFIX"])
+TESTS = ROOT / "build" / ARCH / "tests"
 SYSTEM = PREFIX / "drive_c" / "windows" / "system32"
+CLASS = "{25E32202-6D80-4C8E-887C-F7E494F1CBF1}"
 PATIENCE = 20.0
 
-CREATE = 'WScript.Echo TypeName(CreateObject("VelloraCTL.Vellora"))\r\n'
-# Holds the library until the second file appears; the first one tells that it does.
-HOLD = """Set control = CreateObject("VelloraCTL.Vellora")
-Set files = CreateObject("Scripting.FileSystemObject")
-files.CreateTextFile(WScript.Arguments(0)).Close
-Do Until files.FileExists(WScript.Arguments(1))
-    WScript.Sleep 50
-Loop
-"""
-
+CREATE = 'WScript.Echo CreateObject("VelloraCTL.Vellora").Version\r\n'
 
 def windows(path):
     return "Z:" + str(path).replace("/", "\\")
@@ -50,7 +43,8 @@ class Machine:
 
     def __init__(self, folder):
         self.folder = folder
-        wine("cmd", "/c", "exit")
+        # Windows has this key from the beginning.
+        wine("reg.exe", "add", "HKCU\\Software\\Classes", "/f")
         self.programs = PREFIX / "drive_c" / "Program Files"
         self.user = self._local_folder()
 
@@ -80,8 +74,8 @@ class Machine:
         return ["cscript.exe", "//nologo", windows(path), *arguments]
 
     def creates(self):
-        """What a script gets that creates the control."""
-        return wine(*self.script(CREATE))[1].strip()
+        """Whether a script can create the control and talk to it."""
+        return wine(*self.script(CREATE))[1].startswith("VelloraCTL v")
 
     def registry(self):
         """All classes, of the machine and of the user, as text."""
@@ -93,37 +87,36 @@ class Machine:
         return text
 
     def registered(self):
-        """The libraries that the registry leads to."""
-        return set(re.findall(r'InprocServer32\]\s+@="([^"]*VelloraCTL\.ocx)"', self.registry()))
+        """The libraries that the registry leads to, for the machine or the user, in either bitness."""
+        views = [""] if ARCH == "x86" else [" /reg:32", " /reg:64"]
+        lines = [f"reg.exe query {root}\\Software\\Classes\\CLSID\\{CLASS}\\InprocServer32 /ve{view} 2>nul"
+                 for root in ("HKLM", "HKCU") for view in views]
+        path = self.folder / "registered.cmd"
+        path.write_bytes("\r\n".join(["@echo off", *lines, ""]).encode("ascii"))
+        return re.findall(r"REG_SZ\s+(.*)", wine("cmd", "/c", windows(path))[1])
 
-    def holding(self):
-        return Holding(self)
+    @contextlib.contextmanager
+    def holding(self, library):
+        """While a program has the library in use."""
+        program = subprocess.Popen(command(windows(TESTS / "library_holder.exe"), library), text=True,
+                                   stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        try:
+            if program.stdout.readline().strip() != "held":
+                raise AssertionError("the program does not hold the library")
+            yield
+        finally:
+            program.communicate(timeout=PATIENCE)
 
-    def use_certutil(self, stand_in=True):
-        place = SYSTEM / "certutil.exe"
-        place.unlink(missing_ok=True)
-        if stand_in:
-            shutil.copy(ROOT / "build" / ARCH / "tests" / "certutil.exe", place)
-
-
-class Holding:
-    """A program that has the library loaded."""
-
-    def __init__(self, machine):
-        self.ready, self.stop = machine.folder / "ready", machine.folder / "stop"
-        self.words = machine.script(HOLD, windows(self.ready), windows(self.stop))
-
-    def __enter__(self):
-        self.program = subprocess.Popen(command(*self.words), stdin=subprocess.DEVNULL)
-        end = time.monotonic() + PATIENCE
-        while not self.ready.exists():
-            if time.monotonic() > end or self.program.poll() is not None:
-                raise AssertionError("the program that holds the library did not start")
-            time.sleep(0.02)
-        return self
-
-    def __exit__(self, *failure):
-        self.stop.touch()
-        self.program.wait(PATIENCE)
-        self.ready.unlink()
-        self.stop.unlink()
+    @contextlib.contextmanager
+    def certutil(self):
+        """With a program for checksums in the place of the platform's own, and the words that make the platform take it."""
+        place, own = SYSTEM / "certutil.exe", self.folder / "certutil.exe"
+        if place.exists():
+            shutil.move(place, own)
+        shutil.copy(TESTS / "certutil.exe", place)
+        try:
+            yield {"WINEDLLOVERRIDES": "mscoree,mshtml=;certutil.exe=n"}
+        finally:
+            place.unlink()
+            if own.exists():
+                shutil.move(own, place)
