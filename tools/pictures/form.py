@@ -87,5 +87,4 @@ class PictureForm:
         move(mouse)
         self.host.settle()
         photograph(path, self.frame())
-        subprocess.run(["mogrify", "-strip", "+dither", "-colors", "255", "-define", "png:compression-level=9", path],
-                       check=True)
+        subprocess.run(["mogrify", "-strip", "-define", "png:compression-level=9", path], check=True)

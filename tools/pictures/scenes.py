@@ -59,7 +59,7 @@ def fill_a_list(take):
 def headers_and_widths(take):
     with PictureForm("Orders", 456, 180) as form:
         form.label("Order", 16, 20)
-        form.combo((80, 16, 160, 24), [("Number", 900), ("Customer", 2200), ("Date", 1150), ("Amount", 1000)], ORDERS,
+        form.combo((80, 16, 160, 24), [("Number", 800), ("Customer", 2050), ("Date", 1150), ("Amount", 1050)], ORDERS,
                    GridLines=True, TextColumn=2, DropDownWidthOffset={"single": 200 * 15})
         form.host.put("Vellora1", "ListIndex", 0)
         form.open()
@@ -93,7 +93,7 @@ def check_boxes(take):
 def icons_and_picture(take):
     with PictureForm("Countries", 400, 220) as form, tempfile.TemporaryDirectory() as folder:
         form.label("Country", 16, 20)
-        form.combo((80, 16, 304, 24), [("Country", 1500), ("Capital", 1550), ("Millions", 1100)],
+        form.combo((80, 16, 304, 24), [("Country", 1350), ("Capital", 1450), ("Millions", 1350)],
                    [row[:3] for row in COUNTRIES], DropDownHeight={"single": 9},
                    objects={"HeaderIcons": {"images": draw_icons(folder, ("globe", "house", "people"))},
                             "Picture": {"picture_file": draw_leaf(folder)}})
@@ -131,7 +131,7 @@ def right_to_left(take):
     with PictureForm("Calendar", 330, 180, font=["Tahoma", 9]) as form:
         form.combo((16, 16, 200, 24), ["فارسی", "العربية"], [[b, a] for a, b in DAYS], Alignment=RIGHT, TextColumn=2,
                    AutoSize=EVERY_TEXT)
-        form.label("يوم الأسبوع", 230, 20, 80)
+        form.label("اليوم", 230, 20, 80)
         form.host.put("Vellora1", "ListIndex", 1)
         form.open()
         take(form)

@@ -80,7 +80,7 @@ class ArchiveTest(unittest.TestCase):
             self.assertEqual(set(), called - steps, name)
 
     def test_it_names_the_version_of_its_libraries(self):
-        version = re.search(r"VERSION (\S+)", (ROOT / "CMakeLists.txt").read_text(encoding="utf-8"))[1]
+        version = re.search(r"VelloraCTL VERSION (\S+)", (ROOT / "CMakeLists.txt").read_text(encoding="utf-8"))[1]
         for arch in ARCHES:
             self.assertIn(f'version="{version}.0"', (self.folder / arch / "VelloraCTL.manifest").read_text())
         self.assertIn(f"VelloraCTL {version} is installed", (self.folder / "install.cmd").read_text())
