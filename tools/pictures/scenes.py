@@ -59,8 +59,8 @@ def fill_a_list(take):
 def headers_and_widths(take):
     with PictureForm("Orders", 456, 180) as form:
         form.label("Order", 16, 20)
-        form.combo((80, 16, 160, 24), [("Number", 800), ("Customer", 2050), ("Date", 1150), ("Amount", 1050)], ORDERS,
-                   GridLines=True, TextColumn=2, DropDownWidthOffset={"single": 200 * 15})
+        form.combo((80, 16, 160, 24), [("Number", 900), ("Customer", 1950), ("Date", 1150), ("Amount", 1050)], ORDERS,
+                   TextColumn=2, DropDownWidthOffset={"single": 200 * 15})
         form.host.put("Vellora1", "ListIndex", 0)
         form.open()
         take(form)
@@ -141,7 +141,7 @@ def high_dpi(take):
     with PictureForm("Orders", 440, 180, dpi=144) as form:
         form.label("Order", 16, 20)
         form.combo((80, 16, 344, 24), [("Number", 900), ("Customer", 1950), ("Date", 1150), ("Amount", 1000)], ORDERS,
-                   TextColumn=2, GridLines=True)
+                   TextColumn=2)
         form.host.put("Vellora1", "ListIndex", 2)
         form.open()
         take(form)
