@@ -1,7 +1,7 @@
 @echo off
-rem The steps of install.cmd and uninstall.cmd: call steps.cmd STEP [ARGUMENTS]. A step sets CODE, to 0 when all is well.
-rem One that fails says why: 2 an unknown option, 3 a file is missing or damaged, 4 rights are missing, 5 the library is
-rem in use, 6 it could not be registered. Not every command processor tells such things in ERRORLEVEL.
+rem The steps of install.cmd and uninstall.cmd: call steps.cmd STEP [ARGUMENTS]. A step sets CODE, to 0 when all is
+rem well. One that fails says why: 2 an unknown option, 3 a file is missing or damaged, 4 rights are missing, 5 the
+rem library is in use, 6 it could not be registered. Not every command processor tells such things in ERRORLEVEL.
 set "CODE=0"
 set "STEP=%~1"
 shift

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Puts together the archive that is downloaded: the libraries, how to install them, samples and documents.
 
-The same commit gives the same bytes: names are sorted, times are the commit's, and nothing else of this machine goes in.
-SHA256SUMS lists every other file of the archive.
+The same commit gives the same bytes: names are sorted, times are the commit's, and nothing else of this machine goes
+in. SHA256SUMS lists every other file of the archive.
 
 Usage: package.py ARCHIVE.zip [--quick] ARCH...        --quick takes less time and more room
 """

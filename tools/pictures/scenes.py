@@ -72,10 +72,13 @@ def sort_by_header(take):
         form.combo((80, 16, 304, 24), [("Country", 1650), ("Capital", 1750), ("Currency", 1000)],
                    [[row[0], row[1], row[3]] for row in COUNTRIES], DropDownHeight={"single": 10},
                    objects={"HeaderIcons": {"images": draw_icons(folder, ("up", "down"))}})
-        form.host.put("Vellora1", "SortColumn", 2)
-        form.host.put("Vellora1", "Sorted", True)
-        form.host.put("Vellora1", "HeaderIcon", "up", 2)
+        # What the handler on the page does when the header is clicked.
+        form.host.on("Vellora1", "ColumnClick", *({"do": "put", "control": "Vellora1", **what} for what in (
+            {"member": "SortColumn", "value": 2}, {"member": "Sorted", "value": True},
+            {"member": "HeaderIcon", "value": "up", "args": [2]})))
         form.open()
+        form.host.click(form.host.middle("header", index=1))
+        wait_for(lambda: form.host.get("Vellora1", "HeaderIcon", 2) == "up", "the arrow")
         take(form)
 
 

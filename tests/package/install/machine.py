@@ -109,7 +109,7 @@ class Machine:
 
     @contextlib.contextmanager
     def certutil(self):
-        """With a program for checksums in the place of the platform's own, and the words that make the platform take it."""
+        """With a program for checksums in the place of the platform's own; the words that make the platform take it."""
         place, own = SYSTEM / "certutil.exe", self.folder / "certutil.exe"
         if place.exists():
             shutil.move(place, own)

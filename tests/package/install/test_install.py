@@ -102,9 +102,11 @@ class InstallTest(unittest.TestCase):
     def test_files_that_are_damaged_or_missing(self):
         with self.machine.certutil() as words:
             for spaces in ({}, {"VELLORA_CERTUTIL_SPACES": "1"}):
-                self.assert_says(DONE, "The files are whole", "install", "/check", archive=self.small(), **words, **spaces)
+                self.assert_says(DONE, "The files are whole", "install", "/check", archive=self.small(), **words,
+                                 **spaces)
             damaged = self.changed(lambda content: content[:1000] + bytes([content[1000] ^ 1]) + content[1001:])
             self.assert_says(FILES, f'{ARCH}\\VelloraCTL.ocx" is damaged', "install", archive=damaged, **words)
+        self.assert_says(DONE, "is not known", "install", "/check", archive=self.small())
         (damaged / LIBRARY).unlink()
         self.assert_says(FILES, f'{ARCH}\\VelloraCTL.ocx" is missing', "install", archive=damaged)
         self.assert_untouched()

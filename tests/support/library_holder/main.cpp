@@ -1,5 +1,5 @@
-// A program that has the registered library in use: it prints "held" and goes on until its input ends. It also keeps the
-// file open, because there are platforms on which a loaded file can be written all the same.
+// A program that has the registered library in use: it prints "held" and goes on until its input ends. It also
+// keeps the file open, because there are platforms on which a loaded file can be written all the same.
 #include <VelloraCTL.h>
 #include <cstdio>
 #include <windows.h>
