@@ -4,7 +4,7 @@ import shutil
 import tempfile
 import unittest
 
-from machine import ARCH, Machine, files_in
+from machine import ARCH, Machine, files_in, windows
 
 LIBRARY = f"{ARCH}/VelloraCTL.ocx"
 INSTALLED = f"C:\\Program Files\\VelloraCTL\\{ARCH}\\VelloraCTL.ocx"
@@ -111,6 +111,13 @@ class InstallTest(unittest.TestCase):
         self.assert_says(FILES, f'{ARCH}\\VelloraCTL.ocx" is missing', "install", archive=damaged)
         self.assert_untouched()
 
+    def where_nothing_can_be_written(self):
+        """A script that goes on as install.cmd. The platform gives every program its own ProgramFiles."""
+        path = self.machine.folder / "nowhere.cmd"
+        path.write_text("@set ProgramFiles=Q:\\nowhere\n@set ProgramW6432=Q:\\nowhere\n"
+                        f"@{windows(self.archive)}\\install.cmd\n", newline="\r\n")
+        return path
+
     def small(self):
         """An archive of three files, all of which are looked at."""
         place = self.machine.folder / "small"
@@ -124,8 +131,8 @@ class InstallTest(unittest.TestCase):
         return place
 
     def test_what_cannot_be_done(self):
-        nowhere = {"ProgramFiles": "Q:\\nowhere", "ProgramW6432": "Q:\\nowhere"}
-        self.assert_says(RIGHTS, "There are no rights", "install", **nowhere)
+        code, text = self.machine.run(self.where_nothing_can_be_written())
+        self.assertEqual((RIGHTS, True), (code, "There are no rights" in text), text)
         self.assert_says(OPTION, 'There is no option "/all"', "install", "/user", "/all")
         self.assert_says(OPTION, 'There is no option "/all"', "uninstall", "/all")
         self.assert_says(FILES, "is not installed", "uninstall")
