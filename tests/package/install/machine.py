@@ -14,6 +14,7 @@ PREFIX = pathlib.Path(os.environ["VELLORA_PREFIX"])
 TESTS = ROOT / "build" / ARCH / "tests"
 SYSTEM = PREFIX / "drive_c" / "windows" / "system32"
 CLASS = "{25E32202-6D80-4C8E-887C-F7E494F1CBF1}"
+NARROW = PREFIX / "drive_c" / "windows" / "syswow64"
 PATIENCE = 20.0
 
 CREATE = 'WScript.Echo CreateObject("VelloraCTL.Vellora").Version\r\n'
@@ -64,9 +65,14 @@ class Machine:
     def _small(name):
         return not name.startswith(("docs/", "samples/")) and not name.endswith(".debug")
 
-    def run(self, script, *options, **env):
+    def run(self, script, *options, processor="cmd", **env):
         """Exit code and text of install.cmd or uninstall.cmd."""
-        return wine("cmd", "/c", windows(script), *options, env=env)
+        return wine(processor, "/c", windows(script), *options, env=env)
+
+    def has_both(self):
+        """Whether it runs 32-bit programs beside 64-bit ones, and the archive has libraries for both."""
+        return all((folder / "regsvr32.exe").exists() for folder in (SYSTEM, NARROW)) and \
+            all((self.folder / "archive" / arch).exists() for arch in ("x86", "x64"))
 
     def script(self, text, *arguments):
         path = self.folder / f"script-{len(list(self.folder.iterdir()))}.vbs"

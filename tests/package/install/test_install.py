@@ -43,26 +43,18 @@ class InstallTest(unittest.TestCase):
         self.assertEqual([], list(self.machine.user.glob("VelloraCTL*")))
         self.assertEqual([], self.machine.registered())
 
-    def changed(self, change):
-        """An archive in which the library is not what it was."""
+    def changed(self, change, library=LIBRARY):
+        """An archive in which a library is not what it was."""
         place = self.machine.folder / self._testMethodName
         shutil.copytree(self.archive, place)
         self.addCleanup(shutil.rmtree, place)
-        (place / LIBRARY).write_bytes(change((place / LIBRARY).read_bytes()))
+        (place / library).write_bytes(change((place / library).read_bytes()))
         return place
 
     def test_for_all_users(self):
+        """Also installed again; what fails leaves the installed copy working."""
         self.assert_says(DONE, "is installed for all users", "install")
         self.assertEqual((self.archive / LIBRARY).read_bytes(), (self.programs / LIBRARY).read_bytes())
-        self.assertTrue(self.machine.creates())
-        first = files_in(self.programs)
-        self.assert_says(DONE, "is installed", "install")
-        self.assertEqual(first, files_in(self.programs))
-        self.assert_says(DONE, "is uninstalled for all users", "uninstall")
-        self.assert_untouched()
-
-    def test_what_fails_leaves_the_installed_copy_working(self):
-        self.assert_says(DONE, "is installed", "install")
         before, registered = files_in(self.programs), self.machine.registered()
         with self.machine.holding(INSTALLED):
             self.assert_says(IN_USE, "is in use", "install")
@@ -72,11 +64,27 @@ class InstallTest(unittest.TestCase):
         self.assertEqual(before, files_in(self.programs))
         self.assertEqual(registered, self.machine.registered())
         self.assertTrue(self.machine.creates())
-        self.assert_says(DONE, "is uninstalled", "uninstall", archive=self.programs)
+        self.assert_says(DONE, "is installed", "install")
+        self.assertEqual(before, files_in(self.programs))
+        self.assert_says(DONE, "is uninstalled for all users", "uninstall", archive=self.programs)
         # A platform that keeps a running script open leaves its folder; see docs/platform-differences.md.
         if self.programs.exists():
             self.assertLessEqual(set(files_in(self.programs)), {"uninstall.cmd"})
             shutil.rmtree(self.programs)
+        self.assert_untouched()
+
+    def test_both_bitnesses_from_a_32_bit_command_processor(self):
+        if not self.machine.has_both():
+            self.skipTest("there is one bitness here")
+        narrow = "C:\\windows\\syswow64\\cmd.exe"
+        self.assert_says(DONE, "is installed", "install", processor=narrow)
+        registered = self.machine.registered()
+        self.assertEqual(["x64", "x86"], sorted(path.split("\\")[-2] for path in registered))
+        # The 64-bit one is registered by then.
+        broken = self.changed(lambda content: content[:5000], "x86/VelloraCTL.ocx")
+        self.assert_says(REGISTRY, "could not be registered", "install", archive=broken)
+        self.assertEqual(registered, self.machine.registered())
+        self.assert_says(DONE, "is uninstalled", "uninstall", processor=narrow)
         self.assert_untouched()
 
     def test_a_copy_elsewhere_stays_registered_when_installing_fails(self):
