@@ -6,32 +6,37 @@ namespace vellora::com {
 
 namespace {
 
-std::atomic<long> objects = 0;
+// One sum, so that a single look at it tells whether the library is needed.
+std::atomic<long> uses = 0;
 std::atomic<long> locks = 0;
 
 } // namespace
 
 LiveObject::LiveObject() noexcept {
-    ++objects;
+    ++uses;
 }
 
 LiveObject::~LiveObject() {
-    --objects;
+    --uses;
 }
 
 void lock_library(bool lock) noexcept {
     if (lock) {
+        ++uses;
         ++locks;
         return;
     }
     // There may be more unlocks than locks.
-    long held = locks;
-    while (held > 0 && !locks.compare_exchange_weak(held, held - 1)) {
+    for (long held = locks; held > 0;) {
+        if (locks.compare_exchange_weak(held, held - 1)) {
+            --uses;
+            return;
+        }
     }
 }
 
 bool library_in_use() noexcept {
-    return objects != 0 || locks != 0;
+    return uses != 0;
 }
 
 } // namespace vellora::com

@@ -30,7 +30,7 @@ STDMETHODIMP PersistBag::Save(IPropertyBag* bag, BOOL clear_dirty, BOOL) noexcep
     const Hold alive = host_.hold();
     return guard(IID_IPersistPropertyBag, [&] {
         need(bag);
-        const std::uint32_t before = host_.persistence().changes();
+        const std::uint32_t before = host_.persistence().begin_saving();
         BagStore store(bag, nullptr);
         save_settings(host_, store);
         host_.persistence().saved(clear_dirty != FALSE, before);

@@ -32,7 +32,7 @@ STDMETHODIMP PersistMemory::Save(void* memory, BOOL clear_dirty, ULONG size) noe
     const Hold alive = host_.hold();
     return guard(IID_IPersistMemory, [&] {
         need(memory);
-        const std::uint32_t before = host_.persistence().changes();
+        const std::uint32_t before = host_.persistence().begin_saving();
         const Bytes content = saved_settings(host_);
         if (content.size() > size)
             throw ComFailure(E_INVALIDARG);

@@ -44,7 +44,7 @@ STDMETHODIMP PersistStorage::Save(IStorage* storage, BOOL same_as_load) noexcept
     const Hold alive = host_.hold();
     return guard(IID_IPersistStorage, [&] {
         need(storage);
-        const std::uint32_t before = host_.persistence().changes();
+        const std::uint32_t before = host_.persistence().begin_saving();
         // A new stream ends the one of the last save, so there has to be something to write.
         const Bytes content = saved_settings(host_);
         ComPtr<IStream> stream;

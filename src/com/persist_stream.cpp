@@ -23,7 +23,7 @@ STDMETHODIMP PersistStream::Load(IStream* stream) noexcept {
 STDMETHODIMP PersistStream::Save(IStream* stream, BOOL clear_dirty) noexcept {
     const Hold alive = host_.hold();
     return guard(IID_IPersistStreamInit, [&] {
-        const std::uint32_t before = host_.persistence().changes();
+        const std::uint32_t before = host_.persistence().begin_saving();
         save_to_stream(host_, stream);
         host_.persistence().saved(clear_dirty != FALSE, before);
     });

@@ -34,6 +34,7 @@ void Persistence::load(ControlClient& client, PropertyStore& store) {
     asked_ = true;
     initialised_ = true;
     client.load(store);
+    ++changes_; // for a container that loads inside a saving
     dirty_ = false;
     written_ = false;
 }

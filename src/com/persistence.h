@@ -16,8 +16,12 @@ public:
         written_ = false;
         ++changes_;
     }
-    /// How many there were so far, to be asked for before anything is written.
-    std::uint32_t changes() const noexcept { return changes_; }
+    /// To be called before anything is written: from now on what was written before counts no more. Answers how many
+    /// changes there were so far.
+    std::uint32_t begin_saving() noexcept {
+        written_ = false;
+        return changes_;
+    }
     /// What was written counts as saved at once, if the container says so, else when it is completed; but not if the
     /// container changed the control while it took what was written.
     void saved(bool clear_dirty, std::uint32_t changes_before) noexcept {

@@ -78,13 +78,14 @@ bool class_belongs_to_another(Scope scope) {
 
 void forget_type_library(Scope scope) {
     // The platform learns from the registered file which interfaces to forget, and that file may be gone.
-    com::guard([&] { register_type_library(scope); });
+    const HRESULT renewed = com::guard([&] { register_type_library(scope); });
     const Module& own = module();
     // Who may register may unregister.
     if (scope == Scope::user)
         UnRegisterTypeLibForUser(own.type_library, own.major, own.minor, LOCALE_NEUTRAL, own_kind);
     else
         UnRegisterTypeLib(own.type_library, own.major, own.minor, LOCALE_NEUTRAL, own_kind);
+    com::check(renewed);
 }
 
 /// Forgetting the type library takes the interfaces with it, for both bitnesses: whoever else needs them

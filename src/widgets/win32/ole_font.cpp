@@ -4,9 +4,6 @@
 #include "widgets/win32/wide_text.h"
 
 #include <atomic>
-#include <cstring>
-#include <optional>
-#include <string>
 #include <utility>
 
 namespace vellora::win32 {
@@ -65,21 +62,10 @@ struct TextDeleter {
     void operator()(OLECHAR* text) const { SysFreeString(text); }
 };
 
-struct Look {
-    std::wstring name;
-    LONGLONG size = 0;
-    SHORT weight = 0;
-    SHORT character_set = 0;
-    BOOL italic = FALSE;
-    BOOL underlined = FALSE;
-    BOOL struck_through = FALSE;
-    bool operator==(const Look&) const = default;
-};
-
 /// Nothing when the font does not say. IFont::IsEqual would not do: it takes every font for one of the
 /// platform's own.
-std::optional<Look> look_of(IFont* font) {
-    Look look;
+std::optional<FontLook> look_of(IFont* font) {
+    FontLook look;
     BSTR name = nullptr;
     CY size{};
     const bool known = SUCCEEDED(font->get_Name(&name)) && SUCCEEDED(font->get_Size(&size)) &&
@@ -97,14 +83,6 @@ std::optional<Look> look_of(IFont* font) {
     return look;
 }
 
-// A font object also tells of a value that it had already.
-bool look_alike(HFONT first, HFONT second) {
-    LOGFONTW looks[2] = {};
-    GetObjectW(first, sizeof looks[0], &looks[0]);
-    GetObjectW(second, sizeof looks[1], &looks[1]);
-    return std::memcmp(&looks[0], &looks[1], sizeof looks[0]) == 0;
-}
-
 [[noreturn]] void raise_no_font() {
     throw HostError(error_number::invalid_property_value);
 }
@@ -119,7 +97,7 @@ OleFont::OleFont(ComPtr<IFontDisp> font) : dispatch_(std::move(font)) {
 
 bool OleFont::looks_like(const Font& other) const {
     // Every font of this process came in as one of these.
-    const std::optional<Look> mine = look_of(font_.Get());
+    const std::optional<FontLook> mine = look_of(font_.Get());
     return mine && mine == look_of(static_cast<const OleFont&>(other).font());
 }
 
@@ -208,9 +186,13 @@ void FontInUse::set(const FontRef& font) {
 
 void FontInUse::renew(bool told) {
     const auto* ole_font = static_cast<const OleFont*>(font_.get());
-    FontHandle fresh(ole_font != nullptr ? ole_font->font() : nullptr);
-    const bool changed = told && !look_alike(handle_.get(), fresh.get());
+    IFont* const font = ole_font != nullptr ? ole_font->font() : nullptr;
+    FontHandle fresh(font);
+    std::optional<FontLook> look = font != nullptr ? look_of(font) : std::nullopt;
     std::swap(handle_, fresh);
+    std::swap(look_, look);
+    // A font object also tells of a value that it had already.
+    const bool changed = told && look != look_;
     apply_(handle(), changed);
 }
 

@@ -11,9 +11,23 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
+#include <string>
 #include <string_view>
 
 namespace vellora::win32 {
+
+/// All that a font object says of itself.
+struct FontLook {
+    std::wstring name;
+    LONGLONG size = 0; // ten-thousandths of a point
+    SHORT weight = 0;
+    SHORT character_set = 0;
+    BOOL italic = FALSE;
+    BOOL underlined = FALSE;
+    BOOL struck_through = FALSE;
+    bool operator==(const FontLook&) const = default;
+};
 
 class OleFont final : public Font {
 public:
@@ -84,6 +98,7 @@ private:
     Apply apply_;
     FontRef font_;
     FontHandle handle_;
+    std::optional<FontLook> look_;
     FontWatch watch_;
 };
 
