@@ -2,11 +2,11 @@
 // status bar.
 #pragma once
 
-#include "event_log.h"
+#include "hosting/event_log.h"
 #include "hosting/form_focus.h"
 #include "hosting/form_font.h"
 #include "hosting/form_frame.h"
-#include "line_file.h"
+#include "hosting/line_file.h"
 #include "vellora_box.h"
 
 #include <memory>

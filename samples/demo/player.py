@@ -3,10 +3,10 @@ import contextlib
 import os
 import shutil
 import subprocess
-import tempfile
 import time
 
-from support.bed import ARCH, PATIENCE, ROOT, click, move, wait_for, wine_command, xdotool
+from support.bed import click, move, wait_for, xdotool
+from support.watched import WatchedSample
 
 TITLE = "Vellora demonstration"
 HAND_PAUSE = 0.4  # seconds
@@ -45,26 +45,16 @@ def screen():
     return subprocess.run(["import", "-window", "root", "rgb:-"], check=True, capture_output=True).stdout
 
 
-class Demo:
-    """A running demo.exe. It writes what happens and what is on the screen into a file, which is read here."""
+class Demo(WatchedSample):
+    """A running demo.exe."""
 
     def __init__(self, play, dpi):
+        super().__init__("demo", f"^{TITLE}$", dpi=dpi)
         self.play = play
-        self.state = {}
-        self.events = []
-        self.folder = tempfile.TemporaryDirectory()
-        path = os.path.join(self.folder.name, "log")
-        program = os.path.join(ROOT, "build", ARCH, "samples", "demo", "demo.exe")
-        self.process = subprocess.Popen(wine_command(program, "--log", path),
-                                        env=dict(os.environ, VELLORA_DPI=str(dpi)))
-        wait_for(lambda: os.path.exists(path) or not self.alive(), "the demonstration to start")
-        self.lines = open(path, "rb")
-        self.rest = b""
 
     def __enter__(self):
         self.play.demo = self
-        self.expect("the form", self._window)
-        xdotool("windowactivate", "--sync", self._window())
+        self.activate()
         self.expect_state("form looks", "active")
         return self
 
@@ -73,61 +63,23 @@ class Demo:
             if not failure[0]:
                 self.quit()
         finally:
-            self.process.kill()
-            self.process.wait()
-            self.lines.close()
-            self.folder.cleanup()
+            self.close()
 
     def quit(self):
         # Alt+F4 is for the window with the focus, which is not to be an open list.
         xdotool("key", "Escape")
         self.expect_closed()
         xdotool("key", "alt+F4")
-        code = self.process.wait(PATIENCE)
-        if code != 0:
-            raise AssertionError(f"the demonstration ended with code {code}")
-
-    def alive(self):
-        return self.process.poll() is None
-
-    def _window(self):
-        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{TITLE}$"],
-                               capture_output=True, text=True).stdout.split()
-        return found[0] if found else None
+        self.wait_for_end()
 
     # What it reports.
 
-    def read(self):
-        self.rest += self.lines.read()
-        *whole, self.rest = self.rest.split(b"\n")
-        for line in whole:
-            kind, *fields = line.decode("utf-8").split("\t")
-            self._take(kind, *fields)
-        if not self.alive():
-            raise AssertionError(f"the demonstration ended with code {self.process.wait()}")
-
-    def _take(self, kind, name, value=""):
-        if kind == "problem":
-            raise AssertionError(name)
-        if kind == "state":
-            self.state[name] = value
-        elif not value.startswith(tuple(f"{event}(" for event in MINOR_EVENTS)):
-            again = self.events[-1:] == [value]
-            print(" ..." if again else f" -> {value}", end="", flush=True)
-            self.events.append(value)
-
-    def expect(self, what, condition):
-        def ask():
-            self.read()
-            return condition()
-        wait_for(ask, what)
-
-    def expect_state(self, name, value):
-        try:
-            self.expect("", lambda: self.state.get(name) == value)
-        except AssertionError:
-            self.read()
-            raise AssertionError(f"{name}: expected {value!r}, found {self.state.get(name)!r}") from None
+    def take_event(self, control, event):
+        if event.startswith(tuple(f"{minor}(" for minor in MINOR_EVENTS)):
+            return
+        again = self.events[-1:] == [event]
+        print(" ..." if again else f" -> {event}", end="", flush=True)
+        self.events.append(event)
 
     def expect_open(self):
         self.expect("the list to open", lambda: self.state.get("list", "closed") != "closed")
@@ -146,10 +98,6 @@ class Demo:
             raise AssertionError(f"expected the events {list(expected)}, saw {came}")
 
     # Acting on it.
-
-    def rect(self, name):
-        self.read()
-        return [int(number) for number in self.state[name].split()]
 
     def click_place(self, name):
         left, top, right, bottom = self.rect(name)

@@ -6,17 +6,6 @@ namespace vellora::samples {
 
 namespace {
 
-std::wstring text_of(const RECT& rect) {
-    return std::to_wstring(rect.left) + L' ' + std::to_wstring(rect.top) + L' ' +
-           std::to_wstring(rect.right) + L' ' + std::to_wstring(rect.bottom);
-}
-
-RECT place_of(HWND window) {
-    RECT rect{};
-    GetWindowRect(window, &rect);
-    return rect;
-}
-
 /// The drop button fills the right end of the field.
 HWND drop_button(HWND field) {
     RECT inside;
@@ -46,11 +35,11 @@ bool contains(HWND window, HWND inner) {
 } // namespace
 
 void ScreenReport::update(const DemoForm& form) {
-    if (!file_.is_open() || !form.window())
+    if (!states_.is_watched() || !form.window())
         return;
-    report(L"form", text_of(place_of(form.window())));
-    report(L"form looks", form.looks_active() ? L"active" : L"inactive");
-    report(L"place of Ordinary text field", text_of(place_of(form.text_field())));
+    states_.report(L"form", text_of(place_of(form.window())));
+    states_.report(L"form looks", form.looks_active() ? L"active" : L"inactive");
+    states_.report(L"place of Ordinary text field", text_of(place_of(form.text_field())));
     for (const auto& box : form.boxes())
         report_box(*box);
     report_focus(form);
@@ -58,9 +47,9 @@ void ScreenReport::update(const DemoForm& form) {
 }
 
 void ScreenReport::report_box(const VelloraBox& box) {
-    report(L"place of " + box.name(), text_of(place_of(box.window())));
-    report(L"button of " + box.name(), text_of(place_of(drop_button(box.window()))));
-    report(L"text of " + box.name(), box.text());
+    states_.report(L"place of " + box.name(), text_of(place_of(box.window())));
+    states_.report(L"button of " + box.name(), text_of(place_of(drop_button(box.window()))));
+    states_.report(L"text of " + box.name(), box.text());
 }
 
 void ScreenReport::report_focus(const DemoForm& form) {
@@ -69,28 +58,20 @@ void ScreenReport::report_focus(const DemoForm& form) {
     for (const auto& box : form.boxes())
         if (contains(box->window(), focus))
             owner = box->name();
-    report(L"focus", owner);
+    states_.report(L"focus", owner);
 }
 
 void ScreenReport::report_list() {
     const HWND list = open_list();
-    report(L"list", list ? text_of(place_of(GetAncestor(list, GA_ROOT))) : L"closed");
+    states_.report(L"list", list ? text_of(place_of(GetAncestor(list, GA_ROOT))) : L"closed");
     if (!list)
         return;
     const int top = ListView_GetTopIndex(list);
-    report(L"rows in list", std::to_wstring(ListView_GetItemCount(list)));
-    report(L"top row", std::to_wstring(top));
-    report(L"place of top row", text_of(row_place(list, top)));
-    report(L"rows in sight", std::to_wstring(ListView_GetCountPerPage(list)));
-    report(L"selected row", std::to_wstring(ListView_GetNextItem(list, -1, LVNI_SELECTED)));
-}
-
-void ScreenReport::report(const std::wstring& name, const std::wstring& value) {
-    const auto [known, is_new] = reported_.try_emplace(name, value);
-    if (!is_new && known->second == value)
-        return;
-    known->second = value;
-    file_.write({L"state", name, value});
+    states_.report(L"rows in list", std::to_wstring(ListView_GetItemCount(list)));
+    states_.report(L"top row", std::to_wstring(top));
+    states_.report(L"place of top row", text_of(row_place(list, top)));
+    states_.report(L"rows in sight", std::to_wstring(ListView_GetCountPerPage(list)));
+    states_.report(L"selected row", std::to_wstring(ListView_GetNextItem(list, -1, LVNI_SELECTED)));
 }
 
 } // namespace vellora::samples

@@ -3,29 +3,26 @@
 #pragma once
 
 #include "demo_form.h"
-#include "line_file.h"
+#include "hosting/state_report.h"
 
-#include <map>
 #include <string>
 
 namespace vellora::samples {
 
 class ScreenReport {
 public:
-    explicit ScreenReport(LineFile& file) : file_(file) {}
+    explicit ScreenReport(LineFile& file) : states_(file) {}
 
     /// Writes what is new, as lines `state`, a name, its value. Places are screen pixels: left, top, right,
     /// bottom.
     void update(const DemoForm& form);
 
 private:
-    void report(const std::wstring& name, const std::wstring& value);
     void report_box(const VelloraBox& box);
     void report_focus(const DemoForm& form);
     void report_list();
 
-    LineFile& file_;
-    std::map<std::wstring, std::wstring> reported_;
+    StateReport states_;
 };
 
 } // namespace vellora::samples

@@ -2,7 +2,7 @@
 // load and save it.
 #pragma once
 
-#include "change_sink.h"
+#include "hosting/change_sink.h"
 #include "hosting/control_factory.h"
 #include "hosting/plain_form.h"
 #include "property_bag.h"

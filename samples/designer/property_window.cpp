@@ -1,9 +1,7 @@
 #include "property_window.h"
 
 #include "hosting/child_window.h"
-#include "hosting/screen.h"
-
-#include <commctrl.h>
+#include "hosting/report_list.h"
 
 namespace vellora::samples {
 
@@ -13,33 +11,6 @@ HWND make(HWND form, const wchar_t* window_class, DWORD style, int id) {
     return CreateWindowExW(WS_EX_CLIENTEDGE, window_class, L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP | style, 0, 0, 0, 0,
                            form, reinterpret_cast<HMENU>(static_cast<LONG_PTR>(id)), GetModuleHandleW(nullptr),
                            nullptr);
-}
-
-void add_column(HWND list, int index, const wchar_t* caption, int width) {
-    LVCOLUMNW column{};
-    column.mask = LVCF_TEXT | LVCF_WIDTH;
-    column.pszText = const_cast<wchar_t*>(caption);
-    column.cx = scaled(width);
-    SendMessageW(list, LVM_INSERTCOLUMNW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&column));
-}
-
-void set_cell(HWND list, int row, int column, const std::wstring& text) {
-    LVITEMW item{};
-    item.iItem = row;
-    item.iSubItem = column;
-    item.mask = LVIF_TEXT;
-    item.pszText = const_cast<wchar_t*>(text.c_str());
-    SendMessageW(list, column == 0 ? LVM_INSERTITEMW : LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));
-}
-
-std::wstring cell(HWND list, int row, int column) {
-    wchar_t text[200] = L"";
-    LVITEMW item{};
-    item.iSubItem = column;
-    item.pszText = text;
-    item.cchTextMax = ARRAYSIZE(text);
-    SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
-    return text;
 }
 
 enum Column { category_column, name_column, value_column };
@@ -55,9 +26,9 @@ PropertyWindow::PropertyWindow(HWND form, const RECT& place, int list_id, int fi
     set_font(list_, font);
     set_font(field_, font);
     SendMessageW(list_, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
-    add_column(list_, category_column, L"Category", 90);
-    add_column(list_, name_column, L"Property", 135);
-    add_column(list_, value_column, L"Value", 155);
+    add_column(list_, category_column, L"Category", scaled(90));
+    add_column(list_, name_column, L"Property", scaled(135));
+    add_column(list_, value_column, L"Value", scaled(155));
 }
 
 void PropertyWindow::show(const PropertyTable* table) {
@@ -82,13 +53,11 @@ void PropertyWindow::refresh() const {
 }
 
 void PropertyWindow::choose(const std::wstring& property) const {
-    const int row = row_of(property);
-    ListView_SetItemState(list_, row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
-    ListView_EnsureVisible(list_, row, FALSE);
+    choose_row(list_, row_of(property));
 }
 
 const Property* PropertyWindow::chosen() const {
-    const int row = ListView_GetNextItem(list_, -1, LVNI_SELECTED);
+    const int row = chosen_row(list_);
     return table_ && row >= 0 ? &table_->properties()[static_cast<std::size_t>(row)] : nullptr;
 }
 

@@ -2,7 +2,7 @@
 // one, with the values to choose from.
 #pragma once
 
-#include "property_table.h"
+#include "hosting/property_table.h"
 
 #include <string>
 #include <windows.h>

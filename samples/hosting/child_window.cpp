@@ -27,8 +27,8 @@ HWND make_button(HWND form, const std::wstring& text, int id) {
     return make_child(form, L"Button", text, WS_TABSTOP | BS_PUSHBUTTON, 0, id);
 }
 
-HWND make_list_box(HWND form) {
-    return make_child(form, L"ListBox", {}, WS_TABSTOP | WS_VSCROLL | LBS_NOINTEGRALHEIGHT, WS_EX_CLIENTEDGE);
+HWND make_list_box(HWND form, DWORD style) {
+    return make_child(form, L"ListBox", {}, WS_TABSTOP | WS_VSCROLL | LBS_NOINTEGRALHEIGHT | style, WS_EX_CLIENTEDGE);
 }
 
 HWND make_status_bar(HWND form) {

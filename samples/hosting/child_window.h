@@ -9,7 +9,8 @@ namespace vellora::samples {
 HWND make_label(HWND form, const std::wstring& text);
 HWND make_text_field(HWND form, const std::wstring& text, int id);
 HWND make_button(HWND form, const std::wstring& text, int id);
-HWND make_list_box(HWND form);
+/// `style` adds what list boxes have of their own.
+HWND make_list_box(HWND form, DWORD style = 0);
 HWND make_status_bar(HWND form);
 
 void move_window(HWND window, const RECT& place);

@@ -60,6 +60,13 @@ void ControlSite::move(const RECT& place) {
         in_place_->SetObjectRects(&place, &place);
 }
 
+void ControlSite::rename(std::wstring name) {
+    name_ = std::move(name);
+    ComPtr<IOleControl> control;
+    if (object_ && SUCCEEDED(object_.As(&control)))
+        control->OnAmbientPropertyChange(DISPID_AMBIENT_DISPLAYNAME);
+}
+
 void ControlSite::release() {
     if (in_place_)
         in_place_->InPlaceDeactivate();

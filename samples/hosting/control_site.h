@@ -37,6 +37,8 @@ public:
     void show();
     /// The host's own object around the control, by which the control learns its name.
     void extend(IDispatch* extender) { extender_ = extender; }
+    /// The control is called something else now.
+    void rename(std::wstring name);
     /// Pixels of the form's client area. The control may decide for another height, see place().
     void move(const RECT& place);
     const RECT& place() const noexcept { return place_; }

@@ -1,6 +1,5 @@
 #include "event_sink.h"
 
-#include "event_type.h"
 #include "failure.h"
 
 #include <VelloraCTL.h>
@@ -35,17 +34,26 @@ std::wstring Event::text() const {
     return name + L'(' + list + L')';
 }
 
+std::wstring Event::named_text() const {
+    std::wstring list;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        list += list.empty() ? L"" : L", ";
+        list += (i < parameters.size() ? parameters[i] + L" = " : L"") + arguments[i];
+    }
+    return name + L'(' + list + L')';
+}
+
 void EventSink::listen_to(IUnknown* control) {
     EventType type = event_type_of(control);
     ComPtr<IConnectionPointContainer> points;
     check(control->QueryInterface(IID_PPV_ARGS(&points)), L"Asking the control for its events");
     check(points->FindConnectionPoint(type.id, &point_), L"Finding the control's events");
-    names_ = std::move(type.names);
+    type_ = std::move(type);
     check(point_->Advise(this, &cookie_), L"Listening to the control's events");
 }
 
 void EventSink::learn_from(IUnknown* control) {
-    names_ = event_type_of(control).names;
+    type_ = event_type_of(control);
 }
 
 void EventSink::stop() {
@@ -56,11 +64,11 @@ void EventSink::stop() {
 // COM passes the arguments last one first.
 STDMETHODIMP EventSink::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*,
                                UINT*) {
-    const auto name = names_.find(id);
-    if (name == names_.end())
+    const auto name = type_.names.find(id);
+    if (name == type_.names.end())
         return DISP_E_MEMBERNOTFOUND;
     try {
-        Event event{name->second, {}};
+        Event event{name->second, {}, type_.parameters[id]};
         for (UINT i = parameters->cArgs; i-- > 0;)
             event.arguments.push_back(argument_text(event.name, parameters->rgvarg[i]));
         handler_(event);

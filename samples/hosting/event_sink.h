@@ -2,9 +2,9 @@
 #pragma once
 
 #include "com_object.h"
+#include "event_type.h"
 
 #include <functional>
-#include <map>
 #include <string>
 #include <vector>
 
@@ -17,8 +17,11 @@ namespace vellora::samples {
 struct Event {
     std::wstring name;
     std::vector<std::wstring> arguments; // in declared order
+    std::vector<std::wstring> parameters; // their names
     /// `DropDown(vlOpen)`
     std::wstring text() const;
+    /// `DropDown(State = vlOpen)`
+    std::wstring named_text() const;
 };
 
 class EventSink final : public ComObject<IDispatch> {
@@ -41,7 +44,7 @@ public:
 
 private:
     Handler handler_;
-    std::map<DISPID, std::wstring> names_;
+    EventType type_;
     Microsoft::WRL::ComPtr<IConnectionPoint> point_;
     DWORD cookie_ = 0;
 };

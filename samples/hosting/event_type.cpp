@@ -1,6 +1,5 @@
 #include "event_type.h"
 
-#include "bstr.h"
 #include "failure.h"
 
 #include <ocidl.h>
@@ -26,6 +25,18 @@ ComPtr<ITypeInfo> described(IUnknown* object, REFIID id) {
     return events;
 }
 
+/// The name of an event, then those of its parameters.
+std::vector<std::wstring> names_of(ITypeInfo* type, MEMBERID event) {
+    constexpr UINT most = 32;
+    BSTR names[most]{};
+    UINT count = 0;
+    type->GetNames(event, names, most, &count);
+    std::vector<std::wstring> result(names, names + count);
+    for (const BSTR name : names)
+        SysFreeString(name);
+    return result;
+}
+
 } // namespace
 
 EventType event_type_of(IUnknown* object) {
@@ -36,10 +47,10 @@ EventType event_type_of(IUnknown* object) {
     const ComPtr<ITypeInfo> type = described(object, result.id);
     FUNCDESC* event = nullptr;
     for (UINT i = 0; SUCCEEDED(type->GetFuncDesc(i, &event)); ++i) {
-        Bstr name;
-        UINT count = 0;
-        if (SUCCEEDED(type->GetNames(event->memid, name.out(), 1, &count)))
-            result.names[event->memid] = name.text();
+        if (const auto names = names_of(type.Get(), event->memid); !names.empty()) {
+            result.names[event->memid] = names.front();
+            result.parameters[event->memid] = {names.begin() + 1, names.end()};
+        }
         type->ReleaseFuncDesc(event);
     }
     return result;

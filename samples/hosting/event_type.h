@@ -3,6 +3,7 @@
 
 #include <map>
 #include <string>
+#include <vector>
 #include <windows.h>
 
 #include <oaidl.h>
@@ -12,6 +13,7 @@ namespace vellora::samples {
 struct EventType {
     IID id; // of the event interface, which connection points go by
     std::map<DISPID, std::wstring> names;
+    std::map<DISPID, std::vector<std::wstring>> parameters; // in declared order
 };
 
 /// Throws a Failure when the object has no events.

@@ -1,12 +1,13 @@
 #include "property_table.h"
 
-#include "hosting/bstr.h"
-#include "hosting/failure.h"
-#include "hosting/variant.h"
+#include "bstr.h"
+#include "invocation.h"
+#include "object_values.h"
 #include "property_category.h"
 
 #include <algorithm>
 #include <cwchar>
+#include <set>
 #include <tuple>
 
 namespace vellora::samples {
@@ -26,13 +27,28 @@ bool is_listed(const FUNCDESC& member) {
     return member.invkind == INVOKE_PROPERTYGET && member.cParams == 0 && (member.wFuncFlags & kept_back) == 0;
 }
 
-/// Numbers become colours by the type they are declared with.
-bool is_color(ITypeInfo* members, const TYPEDESC& declared) {
+bool is_put(const FUNCDESC& member) {
+    return (member.invkind & (INVOKE_PROPERTYPUT | INVOKE_PROPERTYPUTREF)) != 0 && member.cParams == 1;
+}
+
+std::wstring name_of_type(ITypeInfo* members, const TYPEDESC& declared) {
+    if (declared.vt == VT_PTR)
+        return name_of_type(members, *declared.lptdesc);
     ComPtr<ITypeInfo> type;
     Bstr name;
-    return declared.vt == VT_USERDEFINED && SUCCEEDED(members->GetRefTypeInfo(declared.hreftype, &type)) &&
-           SUCCEEDED(type->GetDocumentation(MEMBERID_NIL, name.out(), nullptr, nullptr, nullptr)) &&
-           name.text() == L"OLE_COLOR";
+    if (declared.vt == VT_USERDEFINED && SUCCEEDED(members->GetRefTypeInfo(declared.hreftype, &type)))
+        type->GetDocumentation(MEMBERID_NIL, name.out(), nullptr, nullptr, nullptr);
+    return name.text();
+}
+
+/// Numbers become colours, and objects fonts, by the type they are declared with.
+PropertyKind kind_of(ITypeInfo* members, const TYPEDESC& declared) {
+    const std::wstring type = name_of_type(members, declared);
+    if (type == L"OLE_COLOR")
+        return PropertyKind::color;
+    if (type == L"Font" || type == L"IFontDisp")
+        return PropertyKind::font;
+    return type == L"Picture" || type == L"IPictureDisp" ? PropertyKind::picture : PropertyKind::plain;
 }
 
 std::wstring name_of(ITypeInfo* members, MEMBERID id) {
@@ -42,13 +58,8 @@ std::wstring name_of(ITypeInfo* members, MEMBERID id) {
     return name.text();
 }
 
-Variant value_of(IDispatch* control, DISPID id) {
-    DISPPARAMS none{};
-    Variant value;
-    check(
-        control->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none, value.out(), nullptr, nullptr),
-        L"Reading a property");
-    return value;
+bool is_object(const Variant& value) {
+    return value.type() == VT_DISPATCH || value.type() == VT_UNKNOWN;
 }
 
 std::wstring color_text(Variant& value) {
@@ -82,14 +93,19 @@ PropertyTable::PropertyTable(IUnknown* control) {
 void PropertyTable::read_properties() {
     const ComPtr<ITypeInfo> members = members_of(control_.Get());
     const PropertyCategories categories(control_.Get());
+    std::set<DISPID> put;
     FUNCDESC* member = nullptr;
     for (UINT i = 0; SUCCEEDED(members->GetFuncDesc(i, &member)); ++i) {
+        if (is_put(*member))
+            put.insert(member->memid);
         if (is_listed(*member))
             properties_.push_back({member->memid, name_of(members.Get(), member->memid),
                                    categories.name_for(member->memid),
-                                   is_color(members.Get(), member->elemdescFunc.tdesc)});
+                                   kind_of(members.Get(), member->elemdescFunc.tdesc), false});
         members->ReleaseFuncDesc(member);
     }
+    for (Property& property : properties_)
+        property.writable = put.contains(property.id);
 }
 
 const Property& PropertyTable::find(const std::wstring& name) const {
@@ -103,17 +119,17 @@ std::wstring PropertyTable::text(const Property& property) const {
     Bstr display;
     if (browsing_ && browsing_->GetDisplayString(property.id, display.out()) == S_OK)
         return display.text();
-    Variant value = value_of(control_.Get(), property.id);
-    if (property.is_color)
+    Variant value = invoke(control_.Get(), property.id, DISPATCH_PROPERTYGET);
+    if (property.kind == PropertyKind::color)
         return color_text(value);
-    if (value.type() == VT_DISPATCH || value.type() == VT_UNKNOWN)
-        return value.get()->punkVal ? L"(object)" : L"(none)";
+    if (is_object(value))
+        return text_of_object(property.kind, *value.get());
     value.change_to(VT_BSTR);
     return value.text();
 }
 
 std::vector<std::wstring> PropertyTable::choices(const Property& property) const {
-    if (value_of(control_.Get(), property.id).type() == VT_BOOL)
+    if (invoke(control_.Get(), property.id, DISPATCH_PROPERTYGET).type() == VT_BOOL)
         return {L"False", L"True"};
     PredefinedValues list;
     if (!browsing_ || browsing_->GetPredefinedStrings(property.id, &list.texts, &list.cookies) != S_OK)
@@ -121,7 +137,7 @@ std::vector<std::wstring> PropertyTable::choices(const Property& property) const
     return {list.texts.pElems, list.texts.pElems + list.texts.cElems};
 }
 
-void PropertyTable::set(const Property& property, const std::wstring& text) const {
+void PropertyTable::set(const Property& property, const std::wstring& text) {
     PredefinedValues list;
     if (browsing_)
         browsing_->GetPredefinedStrings(property.id, &list.texts, &list.cookies);
@@ -130,25 +146,15 @@ void PropertyTable::set(const Property& property, const std::wstring& text) cons
         if (text == list.texts.pElems[i])
             check(browsing_->GetPredefinedValue(property.id, list.cookies.pElems[i], value.out()),
                   L"Asking for a value");
+    const Variant before = invoke(control_.Get(), property.id, DISPATCH_PROPERTYGET);
+    if (is_object(before)) {
+        invoke(control_.Get(), property.id, DISPATCH_PROPERTYPUTREF, {object_of_text(property.kind, text)});
+        return;
+    }
     // "True" is a truth value and "&H80000005" a number only to somebody who knows what is wanted.
-    if (!value.change_to(property.is_color ? static_cast<VARTYPE>(VT_I4)
-                                           : value_of(control_.Get(), property.id).type()))
+    if (!value.change_to(property.kind == PropertyKind::color ? static_cast<VARTYPE>(VT_I4) : before.type()))
         throw Failure(L'"' + text + L"\" is no value for " + property.name + L'.');
-    put(property.id, value.get());
-}
-
-void PropertyTable::put(DISPID id, VARIANT* value) const {
-    DISPID assigned = DISPID_PROPERTYPUT;
-    DISPPARAMS arguments{value, &assigned, 1, 1};
-    EXCEPINFO error{};
-    const HRESULT result =
-        control_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYPUT, &arguments, nullptr, &error, nullptr);
-    const std::wstring description = error.bstrDescription ? error.bstrDescription : L"";
-    for (const BSTR text : {error.bstrSource, error.bstrDescription, error.bstrHelpFile})
-        SysFreeString(text);
-    if (FAILED(result) && !description.empty())
-        throw Failure(description);
-    check(result, L"Setting the property");
+    invoke(control_.Get(), property.id, DISPATCH_PROPERTYPUT, {value});
 }
 
 } // namespace vellora::samples

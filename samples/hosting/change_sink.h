@@ -1,7 +1,7 @@
 // Hears when a control says that one of its properties changed, whoever changed it.
 #pragma once
 
-#include "hosting/com_object.h"
+#include "com_object.h"
 
 #include <functional>
 

@@ -1,6 +1,6 @@
 #include "property_category.h"
 
-#include "hosting/bstr.h"
+#include "bstr.h"
 
 namespace vellora::samples {
 

@@ -1,7 +1,9 @@
 #include "line_file.h"
 
-#include "hosting/environment.h"
-#include "hosting/failure.h"
+#include "environment.h"
+#include "failure.h"
+
+#include <algorithm>
 
 namespace vellora::samples {
 
@@ -15,6 +17,10 @@ std::string utf8(std::wstring_view text) {
                                            static_cast<int>(bytes.size()), nullptr, nullptr);
     bytes.resize(static_cast<std::size_t>(length));
     return bytes;
+}
+
+bool parts_lines(wchar_t character) {
+    return character == L'\t' || character == L'\r' || character == L'\n';
 }
 
 } // namespace
@@ -37,8 +43,11 @@ void LineFile::write(std::initializer_list<std::wstring_view> fields) {
     if (!is_open())
         return;
     std::wstring line;
-    for (const std::wstring_view field : fields)
+    for (const std::wstring_view field : fields) {
+        const std::size_t begin = line.size();
         line.append(field).append(1, L'\t');
+        std::replace_if(line.begin() + static_cast<std::ptrdiff_t>(begin), line.end() - 1, parts_lines, L' ');
+    }
     line.back() = L'\n';
     const std::string bytes = utf8(line);
     DWORD written = 0;

@@ -18,7 +18,8 @@ public:
     ~LineFile();
 
     bool is_open() const noexcept { return file_ != INVALID_HANDLE_VALUE; }
-    /// One line, its fields parted by tabs, in UTF-8; on the disk when the call returns.
+    /// One line, its fields parted by tabs, in UTF-8; on the disk when the call returns. What parts lines or fields
+    /// becomes a blank.
     void write(std::initializer_list<std::wstring_view> fields);
 
 private:
