@@ -1,12 +1,15 @@
-// settings_fuzzer stream|bag [--seconds N] [--seed N] [--corpus FOLDER]... [--keep FOLDER] [--failures FOLDER]
-// settings_fuzzer stream|bag FILE...
+// settings_fuzzer stream|bag|form [--seconds N] [--seed N] [--corpus FOLDER]... [--keep FOLDER] [--failures FOLDER]
+// settings_fuzzer stream|bag|form FILE...
 #include "fuzz/bag_target.h"
+#include "fuzz/form_target.h"
 #include "fuzz/stream_target.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -15,9 +18,9 @@ using namespace vellora::fuzz;
 namespace {
 
 int usage() {
-    std::fputs("usage: settings_fuzzer stream|bag [--seconds N] [--seed N] [--corpus FOLDER]...\n"
-               "                                  [--keep FOLDER] [--failures FOLDER]\n"
-               "       settings_fuzzer stream|bag FILE...\n",
+    std::fputs("usage: settings_fuzzer stream|bag|form [--seconds N] [--seed N] [--corpus FOLDER]...\n"
+               "                                       [--keep FOLDER] [--failures FOLDER]\n"
+               "       settings_fuzzer stream|bag|form FILE...\n",
                stderr);
     return 2;
 }
@@ -43,15 +46,17 @@ bool set_option(Options& options, const std::string& name, const std::string& va
 
 int main(int count, char** arguments) {
     std::vector<std::string> words(arguments + 1, arguments + count);
-    if (words.empty() || (words[0] != "stream" && words[0] != "bag")) {
+    const Target targets[] = {stream_target(), bag_target(), form_target()};
+    const auto target =
+        std::ranges::find_if(targets, [&](const Target& one) { return !words.empty() && words[0] == one.name; });
+    if (target == std::end(targets)) {
         return usage();
     }
     // What the headless platform finds wrong is a fault, too.
     GTEST_FLAG_SET(throw_on_failure, true);
-    const Target target = words[0] == "stream" ? stream_target() : bag_target();
     if (words.size() > 1 && words[1].substr(0, 2) != "--") {
         for (std::size_t file = 1; file < words.size(); ++file) {
-            replay(target, words[file]);
+            replay(*target, words[file]);
         }
         return 0;
     }
@@ -61,6 +66,6 @@ int main(int count, char** arguments) {
             return usage();
         }
     }
-    fuzz(target, options);
+    fuzz(*target, options);
     return 0;
 }

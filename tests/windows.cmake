@@ -8,6 +8,12 @@ add_library(test_container STATIC ${container_sources})
 target_include_directories(test_container PUBLIC ${tests_dir})
 target_link_libraries(test_container PUBLIC vellora_options ${host_libraries})
 
+# The container sample's form files, as far as they are the platform's.
+set(form_file_parts disk.cpp file.cpp objects.cpp property_bag.cpp replacement.cpp value.cpp)
+list(TRANSFORM form_file_parts PREPEND ${form_dir}/form_)
+add_library(form_files STATIC ${form_file_parts})
+target_link_libraries(form_files PUBLIC form_text)
+
 # com/: the library through its public interface.
 file(GLOB com_test_sources CONFIGURE_DEPENDS
   ${tests_dir}/com/*.cpp ${tests_dir}/com/host_families/*.cpp ${tests_dir}/com/support/*.cpp ${tests_dir}/regress/com_*.cpp)
@@ -19,7 +25,7 @@ target_precompile_headers(com_tests PRIVATE <gtest/gtest.h> <windows.h> <olectl.
 target_compile_definitions(com_tests PRIVATE
   VELLORA_TESTS_DIR="${tests_dir}" VELLORA_VERSION="${PROJECT_VERSION}")
 target_link_libraries(com_tests PRIVATE
-  test_container vellora_win32 vellora_com vellora_behaviour vellora_idl gtest gtest_main
+  test_container form_files vellora_win32 vellora_com vellora_behaviour vellora_idl gtest gtest_main
   ${host_libraries} uxtheme imm32 oleacc shlwapi version)
 # The tests load the library by its path, so nothing but this makes it.
 add_dependencies(com_tests VelloraCTL)

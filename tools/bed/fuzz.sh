@@ -1,7 +1,7 @@
-# Fuzzing of saved settings, natively and under sanitizers.
+# Fuzzing of saved settings and forms, natively and under sanitizers.
 # shellcheck shell=bash
 
-FUZZ_TARGETS='stream bag'
+FUZZ_TARGETS='stream bag form'
 # Of each target in the native ring of the tests, where all run side by side.
 FUZZ_TEST_SECONDS=30
 
