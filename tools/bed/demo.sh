@@ -2,6 +2,10 @@
 # shellcheck shell=bash
 
 cmd_demo() {
+    if [ "${1:-}" = container ]; then
+        shift
+        demo_container "$@"
+    fi
     prepare_x86
     if [ ${#DISPLAY_PROCESSES[@]} -eq 0 ]; then
         local code=0
@@ -11,6 +15,19 @@ cmd_demo() {
     fi
     say 'There is no display to show it on; playing it by itself ...'
     play_demo "$@"
+}
+
+CONTAINER_NEEDS='the test container is for a person to work with. It needs a display: start it on a desktop, or over ssh -X.'
+
+# demo_container [FORM] - the test container, for as long as its window is open.
+demo_container() {
+    [ -n "${DISPLAY:-}" ] || die "$CONTAINER_NEEDS"
+    prepare_x86
+    [ ${#DISPLAY_PROCESSES[@]} -eq 0 ] || die "$CONTAINER_NEEDS"
+    local code=0
+    say 'The test container is on your screen; it ends when you close its window.'
+    bed_run x86 "$VELLORA_ROOT/build/x86/samples/container/container.exe" "$@" 7>&- 8>&- || code=$?
+    exit "$code"
 }
 
 play_demo() {

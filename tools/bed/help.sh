@@ -15,15 +15,17 @@ usage: ./vellora COMMAND
       --generation next         on the Wine of the distribution's next release
                                 instead of this one's
       --keep                    leave display and Wine running for a look
-  fuzz [SECONDS]                change saved settings at random under sanitizers,
-                                from where the last run ended (300 s). A fault
-                                leaves its input in build/fuzz/failures
+  fuzz [SECONDS]                change saved settings and forms at random under
+                                sanitizers, from where the last run ended (300 s).
+                                A fault leaves its input in build/fuzz/failures
   wine [OPTIONS] PROGRAM [ARGS] run a Windows program in the test bed; its exit
                                 code is handed back (the low eight bits)
       --64                      a 64-bit one
       --generation next         as above
   demo                          show the demonstration; without a display it
                                 plays itself and leaves pictures
+  demo container [FORM]         a form designer to try the control in by hand:
+                                its properties, methods and events
   bench [SUBJECT...]            run the benchmark; typing, sorting and so on,
                                 all of it without a name
   package                       make dist/VelloraCTL-VERSION.zip for a download; the
