@@ -68,7 +68,7 @@ void change_places(const FormFiles& files, const FormText& text, bool owned) {
 
 FormFiles::FormFiles(const path& file)
     : form(file), companion(path(file).replace_extension(L".frx")), new_form(with(form, L".~new")),
-      new_companion(with(companion, L".~new")), old_companion(with(companion, L".~old")) {
+      new_companion(with(form, L".~new.frx")), old_companion(with(form, L".~old.frx")) {
     if (same_name(file_name(form), file_name(companion)))
         throw FormError(shown(form) + " is the name of a companion file. A form file has another ending, say .frm.");
 }

@@ -15,6 +15,7 @@ struct FormFiles {
     explicit FormFiles(const std::filesystem::path& path);
 
     std::filesystem::path form, companion;
+    /// Of this form alone: forms whose names differ in their endings share the name of a companion file.
     std::filesystem::path new_form, new_companion, old_companion;
 
     /// Where the companion file is now, after a save that may have ended half way.

@@ -180,34 +180,41 @@ protected:
 
 TEST_F(InterruptedSave, WhileTheNewFilesAreWritten) {
     FormFolder::fill(folder_.path(L"Form1.frm.~new"), new_form_);
-    FormFolder::fill(folder_.path(L"Form1.frx.~new"), new_companion_.substr(0, 3));
+    FormFolder::fill(folder_.path(L"Form1.frm.~new.frx"), new_companion_.substr(0, 3));
     expect("old with its picture");
 }
 
 TEST_F(InterruptedSave, AfterTheOldCompanionSteppedAside) {
     FormFolder::fill(folder_.path(L"Form1.frm.~new"), new_form_);
-    FormFolder::fill(folder_.path(L"Form1.frx.~new"), new_companion_);
-    move(L"Form1.frx", L"Form1.frx.~old");
+    FormFolder::fill(folder_.path(L"Form1.frm.~new.frx"), new_companion_);
+    move(L"Form1.frx", L"Form1.frm.~old.frx");
     expect("old with its picture");
 }
 
 TEST_F(InterruptedSave, BetweenTheTwoFiles) {
     FormFolder::fill(folder_.path(L"Form1.frm.~new"), new_form_);
-    move(L"Form1.frx", L"Form1.frx.~old");
+    move(L"Form1.frx", L"Form1.frm.~old.frx");
     FormFolder::fill(folder_.companion(), new_companion_);
     expect("old with its picture");
 }
 
 TEST_F(InterruptedSave, BeforeTheOldCompanionIsRemoved) {
-    move(L"Form1.frx", L"Form1.frx.~old");
+    move(L"Form1.frx", L"Form1.frm.~old.frx");
     FormFolder::fill(folder_.companion(), new_companion_);
     FormFolder::fill(folder_.form(), new_form_);
     expect("new with its picture");
 }
 
+TEST_F(InterruptedSave, OutlivesTheSaveOfAFormWithAnotherEnding) {
+    FormFolder::fill(folder_.path(L"Form1.frm.~new"), new_form_);
+    move(L"Form1.frx", L"Form1.frm.~old.frx");
+    write_form_file(folder_.path(L"Form1.txt"), without_picture(u"other"));
+    EXPECT_EQ("old with its picture", loaded());
+}
+
 TEST_F(InterruptedSave, ThatFailsAgainStillHasTheOldFiles) {
     FormFolder::fill(folder_.path(L"Form1.frm.~new"), new_form_);
-    move(L"Form1.frx", L"Form1.frx.~old");
+    move(L"Form1.frx", L"Form1.frm.~old.frx");
     FormFolder::fill(folder_.companion(), new_companion_);
     SetFileAttributesW(folder_.form().c_str(), FILE_ATTRIBUTE_READONLY);
     EXPECT_NE("", save_error(with_picture(u"later")));
