@@ -21,6 +21,9 @@ void recover(const FormFiles& files) {
     if (file_exists(files.old_companion) && file_exists(files.new_form))
         move_file(files.old_companion, files.companion);
     remove_file(files.old_companion);
+    // Beside a new form it would pass for the companion file that counts.
+    if (file_exists(files.old_companion))
+        throw FormError(shown(files.old_companion) + " is in the way: another program has it open.");
     remove_file(files.new_form);
     remove_file(files.new_companion);
 }

@@ -122,6 +122,19 @@ TEST_F(FormFileTest, ThatAnotherProgramHasOpenStaysAsItWas) {
     EXPECT_EQ("new with its picture", loaded());
 }
 
+TEST_F(FormFileTest, WaitsUntilNobodyHoldsTheCompanionThatSteppedAside) {
+    save(with_picture(u"old"));
+    const auto aside = folder_.path(L"Form1.frm.~old.frx");
+    FormFolder::fill(aside, "the companion file before that");
+    const HANDLE open = CreateFileW(aside.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(INVALID_HANDLE_VALUE, open);
+    EXPECT_EQ(shown(aside) + " is in the way: another program has it open.", save_error(with_picture(u"new")));
+    EXPECT_EQ("old with its picture", loaded());
+    CloseHandle(open);
+    save(with_picture(u"old"));
+    expect_old_files();
+}
+
 TEST_F(FormFileTest, WithoutAFolderIsNotWritten) {
     const auto elsewhere = folder_.path(L"nowhere") / L"Form1.frm";
     EXPECT_EQ(shown(elsewhere) + " cannot be written: there is no such folder.",
