@@ -16,18 +16,6 @@ path with(const path& file, const wchar_t* ending) {
     return path(file.native() + ending);
 }
 
-/// Puts things right after a save that ended half way. One whose new form is in its place has only its rest to lose.
-void recover(const FormFiles& files) {
-    if (file_exists(files.old_companion) && file_exists(files.new_form))
-        move_file(files.old_companion, files.companion);
-    remove_file(files.old_companion);
-    // Beside a new form it would pass for the companion file that counts.
-    if (file_exists(files.old_companion))
-        throw FormError(shown(files.old_companion) + " is in the way: another program has it open.");
-    remove_file(files.new_form);
-    remove_file(files.new_companion);
-}
-
 /// A unit for each byte: the code of a program need not be UTF-8.
 std::u16string bytes_of(std::string_view text) {
     std::u16string units(text.size(), u'\0');
@@ -35,14 +23,38 @@ std::u16string bytes_of(std::string_view text) {
     return units;
 }
 
-/// Whether the companion file is that of the form in its place, not of another form of the folder.
-bool owns_companion(const FormFiles& files) {
-    if (!file_exists(files.form))
+/// Whether a form in that file names the companion file, which is another form's otherwise.
+bool mentions_companion(const FormFiles& files, const path& form) {
+    if (!file_exists(form))
         return false;
-    const FormBlob old = read_file(files.form, FormLimits::text_bytes, "a form file").value_or(FormBlob());
-    const std::string_view text(reinterpret_cast<const char*>(old.data()), old.size());
+    const FormBlob bytes = read_file(form, FormLimits::text_bytes, "a form file").value_or(FormBlob());
+    const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
     const std::string mark = '"' + encode_utf8(file_name(files.companion)) + "\":";
     return folded(bytes_of(text)).find(folded(bytes_of(mark))) != std::u16string::npos;
+}
+
+/// Whether the first companion file of the form is in its place already, and the form that names it is not.
+bool came_too_early(const FormFiles& files) {
+    return !file_exists(files.new_companion) && mentions_companion(files, files.new_form) &&
+           !mentions_companion(files, files.form);
+}
+
+/// What stayed would tell the next save of an end that was not.
+void clear_away(const path& rest) {
+    remove_file(rest);
+    if (file_exists(rest))
+        throw FormError(shown(rest) + " is in the way: another program has it open.");
+}
+
+/// Puts things right after a save that ended half way. One whose new form is in its place has only its rest to lose.
+void recover(const FormFiles& files) {
+    if (file_exists(files.old_companion) && file_exists(files.new_form))
+        move_file(files.old_companion, files.companion);
+    if (came_too_early(files))
+        remove_file(files.companion);
+    clear_away(files.old_companion);
+    clear_away(files.new_form);
+    remove_file(files.new_companion);
 }
 
 void check_companion(const FormFiles& files, const FormText& text, bool owned) {
@@ -53,10 +65,11 @@ void check_companion(const FormFiles& files, const FormText& text, bool owned) {
                         " belongs to another form. Choose another name.");
 }
 
+/// The companion first: a new form without one beside it means that it is in its place.
 void write_new(const FormFiles& files, const FormText& text) {
-    write_file(files.new_form, std::as_bytes(std::span(text.text)), files.form);
     if (!text.companion.empty())
-        write_file(files.new_companion, text.companion, files.companion);
+        write_file(files.new_companion, text.companion, files.form);
+    write_file(files.new_form, std::as_bytes(std::span(text.text)), files.form);
 }
 
 void change_places(const FormFiles& files, const FormText& text, bool owned) {
@@ -83,14 +96,12 @@ const path& FormFiles::companion_now() const {
 void replace_form(const FormFiles& files, const FormText& text) {
     recover(files);
     check_changeable(files.form);
-    const bool owned = owns_companion(files);
+    const bool owned = mentions_companion(files, files.form);
     check_companion(files, text, owned);
     try {
         write_new(files, text);
         change_places(files, text, owned);
     } catch (...) {
-        if (!owned && !text.companion.empty())
-            remove_file(files.companion);
         recover(files);
         throw;
     }

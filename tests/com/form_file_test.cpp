@@ -192,8 +192,8 @@ protected:
 };
 
 TEST_F(InterruptedSave, WhileTheNewFilesAreWritten) {
-    FormFolder::fill(folder_.path(L"Form1.frm.~new"), new_form_);
-    FormFolder::fill(folder_.path(L"Form1.frm.~new.frx"), new_companion_.substr(0, 3));
+    FormFolder::fill(folder_.path(L"Form1.frm.~new.frx"), new_companion_);
+    FormFolder::fill(folder_.path(L"Form1.frm.~new"), new_form_.substr(0, new_form_.size() - 5));
     expect("old with its picture");
 }
 
@@ -216,6 +216,20 @@ TEST_F(InterruptedSave, BeforeTheOldCompanionIsRemoved) {
     FormFolder::fill(folder_.companion(), new_companion_);
     FormFolder::fill(folder_.form(), new_form_);
     expect("new with its picture");
+}
+
+TEST_F(InterruptedSave, OfAFormWithoutACompanionSoFar) {
+    save(without_picture(u"old"));
+    FormFolder::fill(folder_.path(L"Form1.frm.~new"), new_form_);
+    FormFolder::fill(folder_.companion(), new_companion_);
+    expect("old");
+}
+
+TEST_F(InterruptedSave, OfANewForm) {
+    move(L"Form1.frm", L"Form1.frm.~new");
+    EXPECT_EQ(shown(folder_.form()) + " cannot be opened: there is no such file.", form_error([&] { loaded(); }));
+    save(without_picture(u"later"));
+    EXPECT_TRUE(same_lines({"Form1.frm"}, folder_.names()));
 }
 
 TEST_F(InterruptedSave, OutlivesTheSaveOfAFormWithAnotherEnding) {
