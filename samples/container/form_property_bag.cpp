@@ -165,7 +165,12 @@ std::shared_ptr<FormObject> FormPropertyBag::saved_by_name(IPersistPropertyBag* 
         throw FormValueError{E_FAIL};
     auto saved = std::make_shared<FormObject>(object_of(object));
     const ObjectBag bag(new FormPropertyBag(*saved, depth_ + 1));
-    return SUCCEEDED(object->Save(bag.get(), FALSE, TRUE)) ? saved : nullptr;
+    const HRESULT result = object->Save(bag.get(), FALSE, TRUE);
+    // The bag's own word for what a form cannot hold by name.
+    if (result == E_NOTIMPL || result == DISP_E_TYPEMISMATCH)
+        return nullptr;
+    check_value(result);
+    return saved;
 }
 
 } // namespace vellora::samples

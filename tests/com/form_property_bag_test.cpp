@@ -322,8 +322,19 @@ TEST_F(FormBag, RefusesObjectsThatHoldThemselvesOrFail) {
     EXPECT_TRUE(FAILED(write(L"A", itself)));
     EXPECT_EQ(static_cast<int>(samples::FormLimits::depth) - 1, depth);
     object->save = [](IPropertyBag*) { return E_ACCESSDENIED; };
-    EXPECT_TRUE(FAILED(write(L"A", itself)));
+    EXPECT_EQ(E_ACCESSDENIED, write(L"A", itself));
     EXPECT_TRUE(settings_.settings.empty());
+}
+
+TEST_F(FormBag, AsksForARecordOfObjectsThatAFormCannotHoldByName) {
+    const ComPtr<NamedObject> object(new NamedObject);
+    const Variant itself(static_cast<IUnknown*>(object.Get()));
+    object->save = [](IPropertyBag*) { return E_NOTIMPL; };
+    EXPECT_EQ(E_NOINTERFACE, write(L"A", itself));
+    object->save = [](IPropertyBag* bag) {
+        return bag->Write(L"Bytes", Variant(SafeArrayCreateVector(VT_UI1, 0, 4)).argument());
+    };
+    EXPECT_EQ(E_NOINTERFACE, write(L"A", itself));
 }
 
 TEST_F(FormBag, WritesEachNameOnceAndNothingForNoObject) {
