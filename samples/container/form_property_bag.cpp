@@ -3,6 +3,7 @@
 #include "form_name.h"
 #include "form_objects.h"
 #include "form_value.h"
+#include "hosting/variant.h"
 
 #include <algorithm>
 #include <iterator>
@@ -38,21 +39,8 @@ bool is_object(VARTYPE type) {
     return type == VT_UNKNOWN || type == VT_DISPATCH;
 }
 
-/// The object in a value of any kind, and null for Nothing and for all others.
-IUnknown* object_in(const VARIANT& value) {
-    if (value.vt == (VT_BYREF | VT_VARIANT))
-        return value.pvarVal ? object_in(*value.pvarVal) : nullptr;
-    if (value.vt == (VT_BYREF | VT_UNKNOWN) || value.vt == (VT_BYREF | VT_DISPATCH))
-        return value.ppunkVal ? *value.ppunkVal : nullptr;
-    return is_object(value.vt) ? value.punkVal : nullptr;
-}
-
 bool is_stored_object(const FormValue& value) {
     return std::holds_alternative<FormBlob>(value) || std::holds_alternative<std::shared_ptr<FormObject>>(value);
-}
-
-bool is_nothing(const VARIANT& value) {
-    return is_object(value.vt) && !value.punkVal;
 }
 
 /// As IDispatch unless the caller asks for another type, or the object has none.
@@ -127,13 +115,16 @@ void FormPropertyBag::read(std::u16string_view name, VARIANT* value, IErrorLog* 
 }
 
 void FormPropertyBag::write(std::u16string_view name, const VARIANT& value) {
-    if (is_nothing(value)) {
+    // References may hold Nothing, too.
+    Variant held;
+    check_value(VariantCopyInd(held.out(), const_cast<VARIANT*>(&value)));
+    IUnknown* const object = is_object(held.type()) ? held.get()->punkVal : nullptr;
+    if (is_object(held.type()) && !object) {
         std::erase_if(settings().settings,
                       [name](const FormSetting& setting) { return same_name(setting.name, name); });
         return;
     }
-    IUnknown* const object = object_in(value);
-    FormSetting setting = object ? FormSetting{std::u16string(name), saved(object)} : plain_setting(name, value);
+    FormSetting setting = object ? FormSetting{std::u16string(name), saved(object)} : plain_setting(name, *held.get());
     if (FormSetting* const known = find_setting(settings(), name))
         *known = std::move(setting);
     else

@@ -284,6 +284,25 @@ TEST_F(FormBag, FollowsReferences) {
     EXPECT_EQ(VT_UNKNOWN, read(L"A", VT_UNKNOWN).type());
 }
 
+TEST_F(FormBag, FollowsReferencesToNothing) {
+    IUnknown* nothing = nullptr;
+    VARIANT reference{};
+    reference.ppunkVal = &nothing;
+    for (const int type : {VT_UNKNOWN, VT_DISPATCH}) {
+        reference.vt = static_cast<VARTYPE>(VT_BYREF | type);
+        write(L"A", Variant(1L));
+        EXPECT_EQ(S_OK, bag_->Write(L"A", &reference));
+        EXPECT_TRUE(settings_.settings.empty());
+    }
+    Variant inner(static_cast<IDispatch*>(nullptr));
+    reference.vt = VT_BYREF | VT_VARIANT;
+    reference.pvarVal = &inner.raw();
+    EXPECT_EQ(S_OK, bag_->Write(L"A", &reference));
+    reference.pvarVal = &reference;
+    EXPECT_TRUE(FAILED(bag_->Write(L"A", &reference)));
+    EXPECT_TRUE(settings_.settings.empty());
+}
+
 TEST_F(FormBag, RefusesWhatAFormCannotHold) {
     EXPECT_TRUE(FAILED(write(L"A", Variant(SafeArrayCreateVector(VT_UI1, 0, 4)))));
     EXPECT_TRUE(FAILED(write(L"A", Variant::null())));
