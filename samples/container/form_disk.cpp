@@ -92,6 +92,9 @@ std::optional<FormBlob> read_file(const path& file, std::size_t limit, const cha
         return std::nullopt;
     if (!open)
         fail(file, "opened");
+    // In every folder, some names are those of devices.
+    if (GetFileType(open.get()) != FILE_TYPE_DISK)
+        fail(file, "read", ERROR_INVALID_NAME);
     FormBlob bytes(size_of(open, file, limit, kind));
     DWORD read = 0;
     if (!ReadFile(open.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr))

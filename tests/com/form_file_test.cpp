@@ -83,6 +83,11 @@ TEST_F(FormFileTest, ThatIsNotThereIsNamed) {
               form_error([&] { read_form_file(elsewhere); }));
 }
 
+TEST_F(FormFileTest, WithTheNameOfADeviceIsNotRead) {
+    EXPECT_EQ("\\\\.\\NUL cannot be read: no file can have this name.",
+              form_error([] { read_form_file(L"\\\\.\\NUL"); }));
+}
+
 TEST_F(FormFileTest, WithoutItsCompanionIsNotRead) {
     save(with_picture(u"old"));
     std::filesystem::remove(folder_.companion());
