@@ -99,7 +99,8 @@ std::optional<FormBlob> read_file(const path& file, std::size_t limit, const cha
     DWORD read = 0;
     if (!ReadFile(open.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr))
         fail(file, "read");
-    bytes.resize(read);
+    if (read != bytes.size())
+        fail(file, "read", ERROR_HANDLE_EOF);
     return bytes;
 }
 
