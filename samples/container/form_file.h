@@ -1,4 +1,5 @@
-// A form in its file: the text, and beside it the companion file of the same name that ends in .frx.
+// A form in its file: the text, and beside it the companion file of the same name that ends in .frx. One program at a
+// time saves a form: its steps would meet those of another.
 #pragma once
 
 #include "form_text.h"
