@@ -5,6 +5,7 @@
 #include "form_reader.h"
 
 #include <algorithm>
+#include <set>
 
 namespace vellora::samples {
 
@@ -42,8 +43,11 @@ FormSetting* find_setting(FormObject& object, std::u16string_view name) {
 }
 
 void add_missing(FormObject& object, const std::vector<FormSetting>& settings) {
+    std::set<std::u16string> names;
+    for (const FormSetting& setting : object.settings)
+        names.insert(folded(setting.name));
     for (const FormSetting& setting : settings)
-        if (setting.name.empty() || !find_setting(object, setting.name))
+        if (setting.name.empty() || names.insert(folded(setting.name)).second)
             object.settings.push_back(setting);
 }
 
