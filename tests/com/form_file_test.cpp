@@ -96,8 +96,11 @@ TEST_F(FormFileTest, WithoutItsCompanionIsNotRead) {
               form_error([&] { loaded(); }));
 }
 
-TEST_F(FormFileTest, OfAnyCompanionSizeIsReadOrRefused) {
+TEST_F(FormFileTest, ThatIsTooLargeIsNotRead) {
     save(with_picture(u"old"));
+    std::filesystem::resize_file(folder_.companion(), samples::FormLimits::companion_bytes + 1);
+    EXPECT_EQ(shown(folder_.companion()) + " has 67108865 bytes, and a companion file has at most 67108864.",
+              form_error([&] { loaded(); }));
     FormFolder::fill(folder_.form(), std::string(samples::FormLimits::text_bytes + 1, '\n'));
     EXPECT_EQ(shown(folder_.form()) + " has 4194305 bytes, and a form file has at most 4194304.",
               form_error([&] { loaded(); }));
