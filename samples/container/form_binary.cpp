@@ -83,9 +83,10 @@ FormRecords::File& FormRecords::file(const std::u16string& name, const FormPlace
 // A form may name the same record or ever new files many times, and each is a copy in memory.
 void FormRecords::count(std::size_t bytes, const FormPlace& place) {
     total_ += bytes;
-    if (total_ > 2 * FormLimits::companion_bytes)
-        place.fail("the companion files hold more than the " +
-                   std::to_string(FormLimits::companion_bytes / 1024 / 1024) + " megabytes that a form can have");
+    constexpr std::size_t limit = 2 * FormLimits::companion_bytes;
+    if (total_ > limit)
+        place.fail("the records of the form take more than the " + std::to_string(limit / 1024 / 1024) +
+                   " megabytes that a form can have");
 }
 
 std::string FormRecordWriter::add(const FormBlob& record) {

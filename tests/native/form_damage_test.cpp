@@ -239,12 +239,12 @@ TEST(DamagedCompanion, CutOffAnywhereIsAnError) {
     }
 }
 
-TEST(DamagedCompanion, OfHostileFormsTakesNoMemory) {
+TEST(DamagedCompanion, OfHostileFormsTakesLittleMemory) {
     FormFolder folder{form_around(repeated("A = \"Form1.frx\":0000\n", 1000))};
     folder.files[u"Form1.frx"] = FormBlob(1024 * 1024);
-    EXPECT_EQ(folder.error(),
-              "In line 130 of Form1.frm the companion files hold more than the 64 megabytes that a form "
-              "can have.");
+    EXPECT_EQ(
+        folder.error(),
+        "In line 130 of Form1.frm the records of the form take more than the 128 megabytes that a form can have.");
 }
 
 } // namespace vellora::test
