@@ -88,7 +88,12 @@ std::string number_text(double number) {
     if (!std::isfinite(number))
         throw FormError("A form file cannot hold a number that is not finite.");
     char text[32];
-    std::string result(text, std::to_chars(text, std::end(text), number).ptr);
+    // Users write 100000 and not 1e+05, as long as they can count the digits.
+    constexpr std::size_t most = 17; // fifteen, a sign and a point
+    auto [end, error] = std::to_chars(text, text + most, number, std::chars_format::fixed);
+    if (error != std::errc())
+        end = std::to_chars(text, std::end(text), number).ptr;
+    std::string result(text, end);
     // Without a mark it would be read as a Long.
     if (std::abs(number) > Long::max() && result.find_first_of(".e") == std::string::npos)
         result += ".0";

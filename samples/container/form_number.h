@@ -12,7 +12,8 @@ FormValue parse_number(std::u16string_view text, const FormPlace& place);
 std::optional<std::uint32_t> parse_hexadecimal(std::u16string_view text);
 
 std::string number_text(std::int32_t number);
-/// As short as it can be to come back as the same number. Throws a FormError for what is not finite.
+/// The shortest that comes back as the same number, with an exponent only where there are many digits. Throws a
+/// FormError for what is not finite.
 std::string number_text(double number);
 /// Four digits at least.
 std::string hexadecimal_text(std::uint32_t number, std::size_t digits = 4);

@@ -165,6 +165,16 @@ TEST(FormText, HoldsEveryNumber) {
     EXPECT_THROW(written(form_with(std::numeric_limits<double>::infinity())), FormError);
 }
 
+TEST(FormText, ShowsFractionsAsUsersWriteThem) {
+    const auto line = [](double number) { return split_lines(written(form_with(number)).text).at(2); };
+    EXPECT_EQ(line(100000.0), "   Value           =   100000");
+    EXPECT_EQ(line(-1200000.5), "   Value           =   -1200000.5");
+    EXPECT_EQ(line(0.0001), "   Value           =   0.0001");
+    EXPECT_EQ(line(3e9), "   Value           =   3000000000.0");
+    EXPECT_EQ(line(1e20), "   Value           =   1e+20");
+    EXPECT_EQ(line(1e-20), "   Value           =   1e-20");
+}
+
 TEST(FormText, ReadsNumbersOfOtherPrograms) {
     EXPECT_EQ(value_of<std::int32_t>("&H00C0FFFF&"), 0xC0FFFF);
     EXPECT_EQ(value_of<std::int32_t>("&h8000000f& 'Button face"), std::numeric_limits<std::int32_t>::min() + 15);
