@@ -147,7 +147,7 @@ FormFolder foreign_form() {
                    "      End",
                    "   End",
                    "End",
-                   "Attribute VB_Name = \"frmMain\"",
+                   "Attribute Name = \"frmMain\"",
                    "Option Explicit",
                    "",
                    "Private Sub mnuOpen_Click()",

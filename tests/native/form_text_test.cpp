@@ -106,7 +106,7 @@ TEST(FormText, OfAnotherProgramLosesNothing) {
 
 TEST(FormText, KeepsCodeByteForByte) {
     const std::string form = lines({"VERSION 5.00", "Begin Form Form1", "End"});
-    for (const std::string& code : {""s, "\r\n"s, "Attribute VB_Name = \"Form1\"\r\n"s,
+    for (const std::string& code : {""s, "\r\n"s, "Attribute Name = \"Form1\"\r\n"s,
                                     "\n\n' a comment\nSub A\n  End\nEnd Sub"s, "   "s, "x\0y"s}) {
         EXPECT_EQ(FormFolder{form + code}.read().code, code);
         EXPECT_EQ(written(FormFolder{form + code}.read()).text, form + code);
