@@ -179,20 +179,30 @@ void FormReader::set(FormLine&& line) {
         line.value = follow_(*line.reference, lines_.place());
     Open& open = open_.back();
     const bool is_form = open_.size() == 1;
-    if (!open.object && (is_form ? set_form(line) : set_place(open.control, line)))
-        return;
+    if (!open.object && (is_form ? set_form(line) : set_place(open.control, line))) {
+        if (line.comment.empty())
+            return;
+        // It becomes a line of its own.
+        line.first.clear();
+        line.value = {};
+    }
     settings_of(open).settings.push_back({std::move(line.first), std::move(line.value), std::move(line.comment)});
 }
 
 bool FormReader::set_form(const FormLine& line) {
-    if (same_name(line.first, u"Caption"))
-        form_.caption = needed<std::u16string>(line, "a text in quotation marks", lines_.place());
-    else if (same_name(line.first, u"ClientWidth"))
-        form_.client_width = needed_number(line, lines_.place());
-    else if (same_name(line.first, u"ClientHeight"))
-        form_.client_height = needed_number(line, lines_.place());
-    else
+    if (!same_name(line.first, u"Caption"))
+        return set_size(line);
+    form_.caption = needed<std::u16string>(line, "a text in quotation marks", lines_.place());
+    form_.parts |= form_caption;
+    return true;
+}
+
+bool FormReader::set_size(const FormLine& line) {
+    const bool is_width = same_name(line.first, u"ClientWidth");
+    if (!is_width && !same_name(line.first, u"ClientHeight"))
         return false;
+    (is_width ? form_.client_width : form_.client_height) = needed_number(line, lines_.place());
+    form_.parts |= is_width ? form_client_width : form_client_height;
     return true;
 }
 

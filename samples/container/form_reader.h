@@ -41,6 +41,7 @@ private:
     void end_object(Open&& object);
     void set(FormLine&& line);
     bool set_form(const FormLine& line);
+    bool set_size(const FormLine& line);
     bool set_place(FormControl& control, const FormLine& line);
     void check_unique(const FormControl& control);
     /// Fails for one more than a form can have.

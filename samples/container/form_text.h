@@ -30,7 +30,8 @@ struct FormLiteral {
 using FormValue =
     std::variant<std::int32_t, double, std::u16string, FormBlob, std::shared_ptr<FormObject>, FormLiteral>;
 
-/// One line of a form, or an object with its lines. A line that is only a comment has no name.
+/// One line of a form, or an object with its lines. A line that is only a comment has no name; nor has a comment that
+/// stood beside a number or a text with a member of its own.
 struct FormSetting {
     std::u16string name;
     FormValue value;
@@ -65,9 +66,12 @@ struct FormControl {
     std::vector<FormControl> controls = {};
 };
 
+/// Which of its caption and size the file of a form gives.
+enum FormPart : unsigned { form_caption = 1, form_client_width = 2, form_client_height = 4 };
+
 struct Form {
     std::u16string name, caption;
-    /// Twips; 0 when the file leaves them out.
+    /// Twips.
     std::int32_t client_width = 0, client_height = 0;
     std::vector<FormControl> controls = {};
     /// All settings of the form but those above.
@@ -78,6 +82,8 @@ struct Form {
     std::vector<std::u16string> libraries = {};
     /// What follows the form in its file, byte for byte: a program's code.
     std::string code = {};
+    /// FormPart; a caption that is not empty and a number that is not 0 are written in any case.
+    unsigned parts = 0;
 };
 
 /// What is wrong with a form or its file.

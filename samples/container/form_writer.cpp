@@ -50,11 +50,11 @@ FormText FormWriter::write(const Form& form) {
     for (const std::u16string& library : form.libraries)
         line(piece(library));
     begin(form.class_name, form.name);
-    if (!form.caption.empty())
+    if (!form.caption.empty() || (form.parts & form_caption) != 0)
         setting(u"Caption", text_value(form.caption));
-    if (form.client_height != 0)
+    if (form.client_height != 0 || (form.parts & form_client_height) != 0)
         setting(u"ClientHeight", number_text(form.client_height));
-    if (form.client_width != 0)
+    if (form.client_width != 0 || (form.parts & form_client_width) != 0)
         setting(u"ClientWidth", number_text(form.client_width));
     settings(form.settings);
     for (const FormControl& control : form.controls)

@@ -64,7 +64,7 @@ private:
                                              "\t",
                                              "\r\n'",
                                              "^",
-                                             "\r\nLeft = 3",
+                                             "\r\nLeft = 3 'c",
                                              "\r\nIndex = 1",
                                              "Object = 1\r\n",
                                              "VERSION 1",

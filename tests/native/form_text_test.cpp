@@ -143,6 +143,44 @@ TEST(FormText, KeepsComments) {
     EXPECT_EQ(split_lines(written(FormFolder{lines(text)}.read()).text), text);
 }
 
+TEST(FormText, KeepsCommentsOfTheFormAndOfPlacesInLinesOfTheirOwn) {
+    const std::vector<std::string> read{"VERSION 5.00",
+                                        "Begin Form Form1",
+                                        "Caption=\"A\" 'title",
+                                        "ClientHeight=3 'tall",
+                                        "ClientWidth=4 'wide",
+                                        "Begin A.B C",
+                                        "Left=5 'here",
+                                        "Tag=6",
+                                        "End",
+                                        "End"};
+    const std::vector<std::string> kept{"VERSION 5.00",
+                                        "Begin Form Form1",
+                                        "   Caption         =   \"A\"",
+                                        "   ClientHeight    =   3",
+                                        "   ClientWidth     =   4",
+                                        "   'title",
+                                        "   'tall",
+                                        "   'wide",
+                                        "   Begin A.B C",
+                                        "      Left            =   5",
+                                        "      'here",
+                                        "      Tag             =   6",
+                                        "   End",
+                                        "End"};
+    EXPECT_EQ(split_lines(written(FormFolder{lines(read)}.read()).text), kept);
+}
+
+TEST(FormText, KeepsAnEmptyCaptionAndNoSize) {
+    const std::vector<std::string> text{"VERSION 5.00",
+                                        "Begin Form Form1",
+                                        "   Caption         =   \"\"",
+                                        "   ClientHeight    =   0",
+                                        "   ClientWidth     =   0",
+                                        "End"};
+    EXPECT_EQ(split_lines(written(FormFolder{lines(text)}.read()).text), text);
+}
+
 TEST(FormText, HoldsEveryText) {
     const std::u16string long_text(5000, u'\u20AC');
     for (const std::u16string& text :
