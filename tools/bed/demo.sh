@@ -6,6 +6,7 @@ cmd_demo() {
         shift
         demo_container "$@"
     fi
+    say "To try the control out by yourself: './vellora demo container' opens a form designer."
     prepare_x86
     if [ ${#DISPLAY_PROCESSES[@]} -eq 0 ]; then
         local code=0
