@@ -141,8 +141,9 @@ class BrokenOffTest(GripTest):
         move(start)
         self.host.settle()
         self.host.press(start)
+        self.addCleanup(xdotool, "mouseup", 1)
         self.pull(start, (start[0] + 40, start[1] + 40))
-        self.assertEqual(self.before[2] + 40, self.host.rect("floating")[2])
+        self.until(lambda: self.host.rect("floating")[2] == self.before[2] + 40, "the list to follow")
 
     def assert_no_drag_goes_on(self):
         self.until_closed()

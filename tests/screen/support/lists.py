@@ -64,7 +64,7 @@ class ListOfRowsTest(ScreenTest):
         self.host.release()
 
     def pull(self, start, end, steps=4):
-        """Moves the mouse in steps, as a hand does, and certain that the program has seen each."""
+        """Moves the mouse in steps, as a hand does, with time for the program to see each."""
         for step in range(1, steps + 1):
             xdotool("mousemove", *(a + (b - a) * step // steps for a, b in zip(start, end)))
             self.host.settle()
