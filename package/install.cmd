@@ -32,7 +32,7 @@ set "BASE=%TARGET%\"
 :register
 call "%~dp0steps.cmd" register_all
 if not "%CODE%"=="0" goto :undo
-if not defined HERE call "%~dp0steps.cmd" remove_copy "%TARGET%.old"
+if not defined HERE call "%~dp0steps.cmd" clear_old
 echo VelloraCTL @VERSION@ is installed %SCOPE% in "%BASE%". Registered: %BITNESSES%.
 exit /b 0
 

@@ -150,7 +150,7 @@ rem What a run left behind that was cut off in the middle.
 :tidy_up
 if exist "%TARGET%.new" call :remove_copy "%TARGET%.new"
 if not exist "%TARGET%.old" exit /b 0
-if exist "%TARGET%" (call :remove_copy "%TARGET%.old") else (move "%TARGET%.old" "%TARGET%" >nul 2>&1)
+if exist "%TARGET%" (call :clear_old) else (move "%TARGET%.old" "%TARGET%" >nul 2>&1)
 exit /b 0
 
 :copy_files
@@ -170,6 +170,9 @@ if not "%~z1"=="%COPIED%" set "CODE=4"
 exit /b 0
 
 :put_in_place
+set "HELD=%TARGET%.old"
+if exist "%HELD%" goto :not_moved
+set "HELD=%TARGET%"
 if exist "%TARGET%" move "%TARGET%" "%TARGET%.old" >nul 2>&1
 if exist "%TARGET%" goto :not_moved
 move "%TARGET%.new" "%TARGET%" >nul 2>&1
@@ -177,13 +180,25 @@ if exist "%TARGET%" exit /b 0
 if exist "%TARGET%.old" move "%TARGET%.old" "%TARGET%" >nul 2>&1
 :not_moved
 call :remove_copy "%TARGET%.new"
-echo A file in "%TARGET%" is in use. End the programs that have it open and try again. Nothing was changed.
+echo A file in "%HELD%" is in use. End the programs that have it open and try again. Nothing was changed.
 set "CODE=5"
 exit /b 0
 
 :put_back
 call :remove_copy "%TARGET%"
 if exist "%TARGET%.old" move "%TARGET%.old" "%TARGET%" >nul 2>&1
+exit /b 0
+
+rem The earlier copy goes; the files of others that lay in it come into the new one. While one of ours cannot be removed
+rem they wait, for it would come with them.
+:clear_old
+call :remove_copy "%TARGET%.old"
+if not exist "%TARGET%.old" exit /b 0
+set "LEFT="
+for %%F in (LICENSE steps.cmd uninstall.cmd) do if exist "%TARGET%.old\%%F" set "LEFT=yes"
+for %%B in (x86 x64) do for %%E in (ocx tlb manifest) do if exist "%TARGET%.old\%%B\VelloraCTL.%%E" set "LEFT=yes"
+if defined LEFT exit /b 0
+"%SystemRoot%\System32\xcopy.exe" "%TARGET%.old" "%TARGET%" /d /e /h /i /k /q /y >nul 2>&1 && rd /s /q "%TARGET%.old" >nul 2>&1
 exit /b 0
 
 rem remove_copy FOLDER - removes what was installed there; files of others stay, and with them their folder.

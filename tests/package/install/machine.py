@@ -20,7 +20,10 @@ PATIENCE = 20.0
 CREATE = 'WScript.Echo CreateObject("VelloraCTL.Vellora").Version\r\n'
 
 def windows(path):
-    return "Z:" + str(path).replace("/", "\\")
+    """As a program of the machine names it: what lies on its own drive is not on that of the test bed."""
+    drive = PREFIX / "drive_c"
+    place = f"C:/{path.relative_to(drive)}" if path.is_relative_to(drive) else f"Z:{path}"
+    return place.replace("/", "\\")
 
 
 def wine(*words, env=None):

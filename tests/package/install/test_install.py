@@ -21,6 +21,7 @@ class InstallTest(unittest.TestCase):
         cls.machine = Machine(pathlib.Path(cls.place.name))
         cls.archive = cls.machine.unpack("archive")
         cls.programs = cls.machine.programs / "VelloraCTL"
+        cls.user = cls.machine.user / "VelloraCTL"
         # The script host registers things of its own when it first runs.
         cls.machine.creates()
         cls.untouched = cls.machine.registry()
@@ -36,7 +37,8 @@ class InstallTest(unittest.TestCase):
         got, text = self.machine.run((archive or self.archive) / f"{name}.cmd", *options, **env)
         self.assertEqual(code, got, text)
         self.assertIn(words, text)
-        self.assertEqual([], list(self.machine.programs.glob("VelloraCTL.*")))
+        for folder in (self.machine.programs, self.machine.user):
+            self.assertEqual([], list(folder.glob("VelloraCTL.*")))
 
     def assert_untouched(self):
         self.assertEqual([], list(self.machine.programs.glob("VelloraCTL*")))
@@ -100,11 +102,19 @@ class InstallTest(unittest.TestCase):
         self.assert_untouched()
 
     def test_for_one_user(self):
+        """Also again, with a file of others in both of its folders and an older library."""
         self.assert_says(DONE, "is installed for the user", "install", "/user")
+        installed, others = files_in(self.user), {"notes.txt": b"one", f"{ARCH}/notes.txt": b"two"}
+        for name, content in {**others, LIBRARY: b"older"}.items():
+            (self.user / name).write_bytes(content)
+        self.assert_says(DONE, "is installed for the user", "install", "/user")
+        self.assertEqual({**installed, **others}, files_in(self.user))
         # There are platforms that find no classes of one user; see docs/platform-differences.md.
         self.assertTrue(self.machine.registered())
         self.assertTrue(all("AppData" in path for path in self.machine.registered()))
         self.assert_says(DONE, "is uninstalled for the user", "uninstall", "/user")
+        self.assertEqual(others, files_in(self.user))
+        shutil.rmtree(self.user)
         self.assert_untouched()
 
     def test_files_that_are_damaged_or_missing(self):
