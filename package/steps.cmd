@@ -35,10 +35,12 @@ set "TARGET=%LOCALAPPDATA%\VelloraCTL"
 shift
 goto :next_option
 
-rem A 32-bit command processor finds the 64-bit programs of Windows in Sysnative.
+rem An archive that was unpacked where its files would be copied to stays there. A 32-bit command processor finds the
+rem 64-bit programs of Windows in Sysnative.
 :find_system
 set "SOURCE=%~dp0"
 set "BASE=%~dp0"
+if /i "%SOURCE%"=="%TARGET%\" if exist "%SOURCE%install.cmd" set "HERE=yes"
 set "WIDE=" & set "VIEWS="
 set "NARROW=%SystemRoot%\System32"
 if /i "%PROCESSOR_ARCHITECTURE%"=="AMD64" set "WIDE=%SystemRoot%\System32"
@@ -195,17 +197,18 @@ rem they wait, for it would come with them.
 call :remove_copy "%TARGET%.old"
 if not exist "%TARGET%.old" exit /b 0
 set "LEFT="
-for %%F in (LICENSE steps.cmd uninstall.cmd) do if exist "%TARGET%.old\%%F" set "LEFT=yes"
+for %%F in (LICENSE install.cmd steps.cmd uninstall.cmd SHA256SUMS) do if exist "%TARGET%.old\%%F" set "LEFT=yes"
 for %%B in (x86 x64) do for %%E in (ocx tlb manifest) do if exist "%TARGET%.old\%%B\VelloraCTL.%%E" set "LEFT=yes"
 if defined LEFT exit /b 0
 "%SystemRoot%\System32\xcopy.exe" "%TARGET%.old" "%TARGET%" /d /e /h /i /k /q /y >nul 2>&1 && rd /s /q "%TARGET%.old" >nul 2>&1
 exit /b 0
 
-rem remove_copy FOLDER - removes what was installed there; files of others stay, and with them their folder.
+rem remove_copy FOLDER - removes what was installed there, and what installed it; files of others stay, and with them
+rem their folder.
 :remove_copy
 call :remove_files %1
 for %%B in (x86 x64) do del /q "%~1\%%B\VelloraCTL.ocx" >nul 2>&1
-del /q "%~1\steps.cmd" "%~1\uninstall.cmd" >nul 2>&1
+del /q "%~1\install.cmd" "%~1\steps.cmd" "%~1\uninstall.cmd" "%~1\SHA256SUMS" >nul 2>&1
 for %%B in (x86 x64) do rd "%~1\%%B" >nul 2>&1
 rd "%~1" >nul 2>&1
 exit /b 0

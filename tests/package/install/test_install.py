@@ -117,6 +117,16 @@ class InstallTest(unittest.TestCase):
         shutil.rmtree(self.user)
         self.assert_untouched()
 
+    def test_unpacked_where_it_would_be_copied_to(self):
+        shutil.copytree(self.archive, self.user)
+        unpacked = files_in(self.user)
+        self.assert_says(DONE, "is installed for the user", "install", "/user", archive=self.user)
+        self.assertTrue(self.machine.registered())
+        self.assert_says(DONE, "is uninstalled for the user", "uninstall", "/user", archive=self.user)
+        self.assertEqual(unpacked, files_in(self.user))
+        shutil.rmtree(self.user)
+        self.assert_untouched()
+
     def test_files_that_are_damaged_or_missing(self):
         with self.machine.certutil() as words:
             for spaces in ({}, {"VELLORA_CERTUTIL_SPACES": "1"}):
