@@ -29,7 +29,8 @@ set "CHECK=yes"
 shift
 goto :next_option
 :option_user
-set "SCOPE=for the user %USERNAME%"
+rem Quoted, for a name may have an ampersand.
+set SCOPE=for the user "%USERNAME%"
 set "ROOT=HKCU" & set "OPTIONS=/s /n /i:user" & set "OPTIONS_OFF=/s /u /n /i:user"
 set "TARGET=%LOCALAPPDATA%\VelloraCTL"
 shift
