@@ -6,6 +6,11 @@ if not exist "%~dp0steps.cmd" (
     echo The file steps.cmd is missing beside install.cmd. Unpack the whole archive and start install.cmd there.
     exit /b 3
 )
+set "FOLDER=%~dp0"
+if not "%FOLDER:^=%"=="%FOLDER%" (
+    echo Scripts cannot call each other in a folder with a "^" in its name. Unpack the whole archive elsewhere.
+    exit /b 3
+)
 set "HELP="
 if "%~1"=="/?" set "HELP=yes"
 if defined HELP goto :usage
