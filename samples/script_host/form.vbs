@@ -29,9 +29,9 @@ Sub Countries_DropDown(State)
     End If
 End Sub
 
-' What is typed becomes capital letters: the control takes the character that the handler leaves behind.
+' The letters a to z become capital ones: the control takes the character that the handler leaves behind.
 Sub Countries_KeyPress(KeyAscii)
-    KeyAscii = Asc(UCase(Chr(KeyAscii)))
+    If KeyAscii >= 97 And KeyAscii <= 122 Then KeyAscii = KeyAscii - 32
 End Sub
 
 ' Setting Cancel takes the check mark back.
