@@ -142,10 +142,11 @@ STDMETHODIMP EventSink::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parame
                                UINT*) {
     const std::string name = name_of(id);
     EventArguments arguments(*parameters);
-    if (std::find(ignored_.begin(), ignored_.end(), name) == ignored_.end())
+    if (std::find(ignored_.begin(), ignored_.end(), name) == ignored_.end()) {
         events_.push_back(name + arguments_text(arguments));
-    if (const HRESULT answer = log_ ? log_->enter("Event", "(" + name + ")") : S_OK; FAILED(answer))
-        return answer;
+        if (const HRESULT answer = log_ ? log_->enter("Event", "(" + name + ")") : S_OK; FAILED(answer))
+            return answer;
+    }
     // A handler may end this sink or take itself out: both work on copies.
     const ComPtr<IDispatch> alive(this);
     const auto observer = observer_;
