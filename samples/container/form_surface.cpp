@@ -164,7 +164,7 @@ void FormSurface::show(PlacedControl& control, bool is_new) {
 
 void FormSurface::clear() {
     chosen_ = nullptr;
-    drag_.end();
+    end_drag();
     for (const auto& control : controls_)
         control->take_off(*hosted_);
     controls_.clear();
@@ -186,6 +186,7 @@ PlacedControl* FormSurface::find(const std::u16string& name) const {
 void FormSurface::choose(PlacedControl* control) {
     if (control == chosen_)
         return;
+    end_drag(); // what is dragged is what was chosen
     chosen_ = control;
     place_changed();
     shell_.selection_changed();

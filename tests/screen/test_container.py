@@ -130,15 +130,36 @@ class ContainerTest(unittest.TestCase):
         self.expect("mode", "design")
         self.expect("chosen", "")
 
+    def hold(self, control):
+        """Presses the mouse on a control and drags it a little."""
+        before = self.place(f"place of {control}")
+        x, y = self.middle(f"place of {control}")
+        move((x, y))
+        self.addCleanup(xdotool, "mouseup", 1)
+        xdotool("mousedown", 1, "mousemove", x + 40, y + 40, "mousemove", x + 60, y + 60)
+        self.sample.expect("the control to follow", lambda: self.sample.rect(f"place of {control}") != before)
+
     def test_escape_takes_a_drag_back(self):
         before = self.place("place of Vellora1")
-        start = self.middle("place of Vellora1")
-        move(start)
-        xdotool("mousedown", 1, "mousemove", start[0] + 40, start[1] + 40, "mousemove", start[0] + 60, start[1] + 60)
-        self.sample.expect("the control to follow", lambda: self.sample.rect("place of Vellora1") != before)
+        self.hold("Vellora1")
         xdotool("key", "Escape")
         self.sample.expect("the control to go back", lambda: self.sample.rect("place of Vellora1") == before)
         xdotool("mouseup", 1)
+
+    def test_a_drag_ends_when_keys_choose_something_else(self):
+        self.insert_second()
+        first = self.place("place of Vellora1")
+        self.hold("Vellora2")
+        xdotool("key", "shift+Tab")
+        self.expect("chosen", "Vellora1")
+        xdotool("mousemove_relative", 30, 30, "mouseup", 1)
+        self.hold("Vellora2")
+        self.assertEqual(first, self.place("place of Vellora1"))
+        for chosen in ("Vellora1", ""):
+            xdotool("key", "Delete")
+            self.expect("chosen", chosen)
+        xdotool("mousemove_relative", 30, 30, "mouseup", 1, "key", "Insert")
+        self.expect("chosen", "Vellora1")
 
     def test_everything_goes_by_keys(self):
         xdotool("key", "Insert")
