@@ -19,6 +19,12 @@ int line_height(HWND list) {
     return metrics.tmHeight;
 }
 
+/// Whether it is the notice `code` of a row that is chosen or is no longer.
+bool tells_of_choice(const NMHDR& notice, UINT code) {
+    const auto& item = reinterpret_cast<const NMLISTVIEW&>(notice);
+    return notice.code == code && ((item.uNewState ^ item.uOldState) & LVIS_SELECTED) != 0;
+}
+
 } // namespace
 
 LRESULT PropertyGrid::handle(UINT message, WPARAM wparam, LPARAM lparam) {
@@ -57,8 +63,9 @@ void PropertyGrid::lay_out() {
 void PropertyGrid::notified_by_list(NMHDR& notice) {
     if (notice.hwndFrom != list_)
         return;
-    const auto& item = reinterpret_cast<const NMLISTVIEW&>(notice);
-    if (notice.code == static_cast<UINT>(LVN_ITEMCHANGED) && ((item.uNewState ^ item.uOldState) & LVIS_SELECTED))
+    if (tells_of_choice(notice, static_cast<UINT>(LVN_ITEMCHANGING)) && editor_.has_focus())
+        leave_value(); // afterwards nobody knows any more whose value was typed
+    else if (tells_of_choice(notice, static_cast<UINT>(LVN_ITEMCHANGED)))
         offer();
     else if (notice.code == static_cast<UINT>(NM_DBLCLK))
         take_next();

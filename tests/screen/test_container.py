@@ -53,10 +53,13 @@ class ContainerTest(unittest.TestCase):
         xdotool("type", "--delay", "5", windows_path(path))
         xdotool("key", "Return")
 
-    def set_property(self, name, text):
+    def type_value(self, name, text):
         click(self.middle(f"place of property {name}"))
         xdotool("key", "F2")
         xdotool("type", "--delay", "5", text)
+
+    def set_property(self, name, text):
+        self.type_value(name, text)
         xdotool("key", "Return")
 
     def insert_second(self):
@@ -196,6 +199,11 @@ class ContainerTest(unittest.TestCase):
         xdotool("key", "F5", "Delete")
         self.expect("mode", "design")
         self.expect("chosen", "Vellora1")
+
+    def test_a_typed_value_counts_when_another_property_is_chosen(self):
+        self.type_value("Left", "600")
+        click(self.middle("place of property Top"))
+        self.expect("property Left", "600")
 
     def test_a_refused_value_can_be_mended_or_given_up(self):
         self.set_property("Width", "much")
