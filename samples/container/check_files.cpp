@@ -153,6 +153,20 @@ void open_foreign(ContainerWindow& container, Answers& answers, const Folder& fo
                      copy.find(kept) != std::string::npos);
 }
 
+void close_while_typing(ContainerWindow& container, Answers& answers, Steps& steps) {
+    container.surface().choose_next(false);
+    container.grid().choose(L"Left");
+    container.grid().edit();
+    container.grid().editor().set_text(L"600");
+    answers.asked.clear();
+    answers.answer = Questions::Answer::cancel;
+    for (const UINT message : {WM_CLOSE, WM_QUERYENDSESSION}) {
+        const LRESULT answer = SendMessageW(container.window(), message, 0, 0);
+        steps.expect(L"neither the window nor the session ends without a question", answer == 0);
+    }
+    steps.expect(L"and what was being typed counts", container.document().changed() && !answers.asked.empty());
+}
+
 void fail_to_save(ContainerWindow& container, Answers& answers, const Folder& folder, Steps& steps) {
     container.command(ID_EDIT_INSERT);
     answers.told.clear();
@@ -175,6 +189,7 @@ void check_files(ContainerWindow& container, Steps& steps) {
     save_and_open(container, answers, folder, steps);
     open_damaged(container, answers, folder, steps);
     open_foreign(container, answers, folder, steps);
+    close_while_typing(container, answers, steps);
     fail_to_save(container, answers, folder, steps);
 }
 

@@ -44,7 +44,7 @@ void put_on_clipboard(HWND owner, const std::wstring& text) {
 
 void ContainerWindow::command(int id) {
     // What stands in the grid's field counts, whoever looks at the form next.
-    if (grid_.editor().has_focus() && !grid_.accept())
+    if (!grid_.accept_typed())
         return;
     switch (id) {
     case ID_FILE_NEW:

@@ -89,14 +89,21 @@ LRESULT ContainerWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
         refresh();
         return 0;
     case WM_CLOSE:
-        if (!document_->may_go())
+        if (!may_close())
             return 0;
         break;
+    case WM_QUERYENDSESSION:
+        return may_close();
     case WM_DESTROY:
         PostQuitMessage(0);
         return 0;
     }
     return Pane::handle(message, wparam, lparam);
+}
+
+// What is being typed belongs to the form.
+bool ContainerWindow::may_close() {
+    return grid_.accept_typed() && document_->may_go();
 }
 
 // The form and its events on the left; its properties and members on the right.

@@ -47,6 +47,7 @@ private:
     void lay_out();
     void prepare_menu(HMENU menu);
     void show_title();
+    bool may_close();
     std::wstring chosen_name() const;
     void go_round(bool backwards);
     HWND pane_with_focus() const;

@@ -31,6 +31,8 @@ public:
 
     /// Takes over what stands in the field; false when it was refused.
     bool accept();
+    /// The same while somebody types there; else true.
+    bool accept_typed() { return !editor_.has_focus() || accept(); }
     const ValueEditor& editor() const noexcept { return editor_; }
     std::wstring shown_value(const std::wstring& property) const;
     std::vector<std::wstring> choices(const std::wstring& property) const;

@@ -205,6 +205,15 @@ class ContainerTest(unittest.TestCase):
         click(self.middle("place of property Top"))
         self.expect("property Left", "600")
 
+    def test_a_typed_value_is_not_lost_by_closing(self):
+        self.type_value("Left", "600")
+        xdotool("key", "alt+F4")
+        question = "^Vellora test container$"
+        wait_for(lambda: shown_window(question), "the question")
+        xdotool("key", "Escape")
+        wait_for(lambda: not shown_window(question), "the question to go")
+        self.expect("property Left", "600")
+
     def test_a_refused_value_can_be_mended_or_given_up(self):
         self.set_property("Width", "much")
         self.expect("said", 'Width: "much" is no number of twips; an inch has 1440.')
