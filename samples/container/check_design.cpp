@@ -103,6 +103,14 @@ void check_values(ContainerWindow& container, const User& user, Steps& steps) {
     container.surface().choose(nullptr);
     set(container, L"Caption", L"A form");
     steps.expect_same(L"the form has properties too", L"A form", container.surface().caption());
+    const std::wstring unshowable(L"A\0form", 6);
+    container.surface().set_caption(unshowable);
+    grid.choose(L"Caption");
+    grid.edit();
+    user.press(GetFocus(), VK_ESCAPE);
+    steps.expect_same(L"a text that a field cannot show is not shortened by a look", unshowable,
+                      container.surface().caption());
+    container.surface().set_caption(L"A form");
 }
 
 } // namespace vellora::samples

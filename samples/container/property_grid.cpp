@@ -99,7 +99,7 @@ void PropertyGrid::refresh_values() {
             continue;
         set_cell(list_, row, value_column, text);
         if (row == chosen_row(list_) && !editor_.has_focus())
-            editor_.set_text(text);
+            editor_.show_value(text);
     }
 }
 
@@ -152,7 +152,7 @@ void PropertyGrid::offer() {
         // A value that cannot be asked for can still be typed.
     }
     editor_.offer(choices, property->writable);
-    editor_.set_text(text_of(*property));
+    editor_.show_value(text_of(*property));
     place_editor();
 }
 
@@ -171,7 +171,7 @@ void PropertyGrid::place_editor() {
 
 bool PropertyGrid::accept() {
     const Property* const property = chosen();
-    if (!property || editor_.text() == text_of(*property))
+    if (!property || !editor_.changed())
         return true;
     try {
         properties_->set(*property, editor_.text());
@@ -180,7 +180,7 @@ bool PropertyGrid::accept() {
         editor_.enter();
         return false;
     }
-    editor_.set_text(text_of(*property));
+    editor_.show_value(text_of(*property));
     shell_.say(property->name + L" is " + editor_.text());
     shell_.values_changed(true);
     refresh_values();
@@ -189,14 +189,14 @@ bool PropertyGrid::accept() {
 
 void PropertyGrid::restore() {
     if (const Property* const property = chosen())
-        editor_.set_text(text_of(*property));
+        editor_.show_value(text_of(*property));
 }
 
 // The person turned to something else: what is refused cannot be mended any more.
 void PropertyGrid::leave_value() {
     const Property* const property = chosen();
-    if (!property || editor_.text() == text_of(*property))
-        return;
+    if (!property || !editor_.changed())
+        return restore();
     try {
         properties_->set(*property, editor_.text());
         shell_.values_changed(true);

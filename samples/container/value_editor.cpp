@@ -68,6 +68,11 @@ void ValueEditor::set_text(const std::wstring& text) const {
         SendMessageW(combo_, CB_SETCURSEL, static_cast<WPARAM>(row), 0);
 }
 
+void ValueEditor::show_value(const std::wstring& value) {
+    set_text(value);
+    shown_ = text();
+}
+
 HWND ValueEditor::typed_into() const {
     return with_choices_ ? GetWindow(combo_, GW_CHILD) : edit_;
 }

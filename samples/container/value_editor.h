@@ -30,7 +30,12 @@ public:
     void hide() const;
     bool visible() const { return IsWindowVisible(field()) != FALSE; }
     std::wstring text() const;
+    /// As if the person had typed it.
     void set_text(const std::wstring& text) const;
+    /// Shows a value as it is now. A field cannot show every text: it may have another one afterwards.
+    void show_value(const std::wstring& value);
+    /// Whether there is another text than the one that was shown.
+    bool changed() const { return text() != shown_; }
     /// Gives it the focus, all of its text chosen.
     void enter() const;
     void drop_list() const;
@@ -54,6 +59,7 @@ private:
     HWND edit_ = nullptr;
     HWND combo_ = nullptr;
     bool with_choices_ = false;
+    std::wstring shown_;
 };
 
 } // namespace vellora::samples
