@@ -10,6 +10,7 @@ namespace vellora::samples {
 namespace {
 
 constexpr LONG most_shown = 100; // elements of an array that are still a help to see
+constexpr int deepest = 8;       // arrays in arrays
 
 void skip_blanks(const std::wstring& text, std::size_t& at) {
     while (at < text.size() && text[at] == L' ')
@@ -49,7 +50,7 @@ std::wstring quoted(const std::wstring& text, std::size_t& at) {
     return result;
 }
 
-std::vector<Variant> elements(const std::wstring& text, std::size_t& at);
+std::vector<Variant> elements(const std::wstring& text, std::size_t& at, int depth);
 
 /// Rows of one length become a table of two dimensions.
 Variant array_of(const std::vector<Variant>& items) {
@@ -69,8 +70,9 @@ Variant array_of(const std::vector<Variant>& items) {
             check(SafeArrayPutElement(array, place, item.get()), L"Filling an array");
             continue;
         }
-        if (item.type() != (VT_ARRAY | VT_VARIANT) || item.get()->parray->rgsabound[0].cElements != bounds[1].cElements)
-            throw Failure(L"The rows of a table have as many cells each.");
+        if (item.type() != (VT_ARRAY | VT_VARIANT) || SafeArrayGetDim(item.get()->parray) != 1 ||
+            item.get()->parray->rgsabound[0].cElements != bounds[1].cElements)
+            throw Failure(L"The rows of a table have as many cells each, and are no tables themselves.");
         for (; place[1] < static_cast<LONG>(bounds[1].cElements); ++place[1]) {
             Variant cell;
             SafeArrayGetElement(item.get()->parray, &place[1], cell.out());
@@ -80,9 +82,9 @@ Variant array_of(const std::vector<Variant>& items) {
     return result;
 }
 
-Variant element(const std::wstring& text, std::size_t& at) {
+Variant element(const std::wstring& text, std::size_t& at, int depth) {
     if (text[at] == L'{')
-        return array_of(elements(text, at));
+        return array_of(elements(text, at, depth + 1));
     if (text[at] == L'"')
         return Variant(quoted(text, at));
     const std::size_t end = std::min(text.find_first_of(L",}", at), text.size());
@@ -93,11 +95,13 @@ Variant element(const std::wstring& text, std::size_t& at) {
 }
 
 /// `at` stands on the opening brace, afterwards behind the closing one.
-std::vector<Variant> elements(const std::wstring& text, std::size_t& at) {
+std::vector<Variant> elements(const std::wstring& text, std::size_t& at, int depth) {
+    if (depth > deepest)
+        throw Failure(L"An array has arrays in it " + std::to_wstring(deepest) + L" deep at most.");
     std::vector<Variant> items;
     ++at;
     for (skip_blanks(text, at); at < text.size() && text[at] != L'}'; skip_blanks(text, at)) {
-        items.push_back(element(text, at));
+        items.push_back(element(text, at, depth));
         skip_blanks(text, at);
         if (at < text.size() && text[at] == L',')
             ++at;
@@ -116,7 +120,7 @@ Variant any_value(const std::wstring& text) {
     skip_blanks(text, at);
     if (at >= text.size() || (text[at] != L'{' && text[at] != L'"'))
         return plain_value(text);
-    Variant value = element(text, at);
+    Variant value = element(text, at, 0);
     skip_blanks(text, at);
     if (at < text.size())
         throw Failure(L"After the value there is still " + text.substr(at));

@@ -54,6 +54,11 @@ void check_calls(ContainerWindow& container, Steps& steps) {
                       call(container, L"FindItem", {L"a", L"-1", L"", L"vlPartialWord"}));
     steps.expect_same(L"a table is typed as it is shown", L"{{1, True}, {\"a, \"b\"\", 2.5}}",
                       again(L"{ {1, true}, {\"a, \"\"b\"\"\", 2.5} }"));
+    steps.expect_same(L"a table has no tables for rows",
+                      L"The rows of a table have as many cells each, and are no tables themselves.",
+                      call(container, L"AddItem", {L"{{{1, 2}, {3, 4}}}"}));
+    steps.expect_same(L"arrays in arrays come to an end", L"An array has arrays in it 8 deep at most.",
+                      call(container, L"AddItem", {std::wstring(28000, L'{').c_str()}));
     call(container, L"Clear", {});
 }
 
