@@ -247,8 +247,10 @@ void MethodsBox::lay_out() {
     LONG top = line_ + scaled(4);
     move_window(label_, {0, 0, width, top});
     const LONG members_right = width - 2 * (button + gap);
-    move_window(members_box_, {0, top, members_right, top + field + scaled(list_height)});
-    SendMessageW(members_box_, CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width), 0);
+    if (!SendMessageW(members_box_, CB_GETDROPPEDSTATE, 0, 0)) { // moving it closes its list
+        move_window(members_box_, {0, top, members_right, top + field + scaled(list_height)});
+        SendMessageW(members_box_, CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width), 0);
+    }
     move_window(call_button_, {members_right + gap, top - 1, members_right + gap + button, top + field});
     move_window(set_button_, {width - button, top - 1, width, top + field});
     top += row;

@@ -200,6 +200,14 @@ class ContainerTest(unittest.TestCase):
         self.expect("mode", "design")
         self.expect("chosen", "Vellora1")
 
+    def test_members_are_chosen_from_the_open_list_by_keys(self):
+        xdotool("key", "F6", "F6")
+        self.expect("focus", "methods")
+        said = self.sample.state["said"]
+        xdotool("key", "alt+Down", "Home", "Down", "Down", "Return", "F6")
+        self.expect("focus", "log")
+        self.expect("said", said)
+
     def test_a_typed_value_counts_when_another_property_is_chosen(self):
         self.type_value("Left", "600")
         click(self.middle("place of property Top"))
