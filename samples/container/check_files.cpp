@@ -67,6 +67,9 @@ constexpr char foreign_form[] = "VERSION 5.00\r\n"
                                 "      Top             =   240\r\n"
                                 "      Width           =   1215\r\n"
                                 "      Needle          =   \"red\"\r\n"
+                                "      Begin VelloraCTL.Vellora VELLORA1\r\n"
+                                "         TabIndex        =   2\r\n"
+                                "      End\r\n"
                                 "   End\r\n"
                                 "   Begin VelloraCTL.Vellora Box\r\n"
                                 "      Height          =   315\r\n"
@@ -169,6 +172,8 @@ void close_while_typing(ContainerWindow& container, Answers& answers, Steps& ste
 
 void fail_to_save(ContainerWindow& container, Answers& answers, const Folder& folder, Steps& steps) {
     container.command(ID_EDIT_INSERT);
+    steps.expect_same(L"a new control has a name of its own among all of the form", L"Vellora2",
+                      container.surface().chosen()->name());
     answers.told.clear();
     answers.file = folder.file(L"no such folder") / L"form.frm";
     container.command(ID_FILE_SAVE_AS);

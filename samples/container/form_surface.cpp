@@ -1,5 +1,6 @@
 #include "form_surface.h"
 
+#include "form_name.h"
 #include "form_units.h"
 #include "hosting/failure.h"
 #include "wide_text.h"
@@ -19,8 +20,9 @@ bool is_name(const std::wstring& name) {
            std::ranges::all_of(name, [](wchar_t one) { return IsCharAlphaNumericW(one) || one == L'_'; });
 }
 
-bool same_name(const std::wstring& one, const std::wstring& other) {
-    return lstrcmpiW(one.c_str(), other.c_str()) == 0;
+bool has_name(const std::vector<FormControl>& controls, std::u16string_view name) {
+    return std::ranges::any_of(
+        controls, [name](const FormControl& one) { return same_name(one.name, name) || has_name(one.controls, name); });
 }
 
 } // namespace
@@ -238,16 +240,21 @@ void FormSurface::remove_chosen() {
 std::wstring FormSurface::new_name(const std::wstring& program_id) const {
     const std::wstring base = program_id.substr(program_id.find_last_of(L'.') + 1);
     for (int number = 1;; ++number)
-        if (std::wstring name = base + std::to_wstring(number); !find(utf16(name)))
+        if (std::wstring name = base + std::to_wstring(number); !is_taken(name, nullptr))
             return name;
+}
+
+bool FormSurface::is_taken(const std::wstring& name, const PlacedControl* own) const {
+    return std::ranges::any_of(controls_, [own, name = utf16(name)](const auto& one) {
+        return (one.get() != own && same_name(one->form().name, name)) || has_name(one->form().controls, name);
+    });
 }
 
 void FormSurface::rename(PlacedControl& control, const std::wstring& name) {
     if (!is_name(name))
         throw Failure(L'"' + name + L"\" is no name: a letter, then letters, digits and _.");
-    for (const auto& other : controls_)
-        if (other.get() != &control && same_name(other->name(), name))
-            throw Failure(L"There is a control " + name + L" already.");
+    if (is_taken(name, &control))
+        throw Failure(L"There is a control " + name + L" already.");
     control.rename(name);
 }
 

@@ -74,6 +74,8 @@ private:
     void show(PlacedControl& control, bool is_new);
     void clear();
     PlacedControl* find(const std::u16string& name) const;
+    /// By a control other than `own`, or by one that lies on a control.
+    bool is_taken(const std::wstring& name, const PlacedControl* own) const;
     PlacedControl* control_at(POINT point) const;
     std::wstring new_name(const std::wstring& program_id) const;
     std::vector<PlacedControl*> in_tab_order() const;
