@@ -74,6 +74,10 @@ void check_run(ContainerWindow& container, const User& user, Steps& steps) {
     SetFocus(field);
     user.press(field, VK_F4);
     steps.expect(L"F4 opens the list", open_list() != nullptr);
+    for (const wchar_t* const step : {L"F6 goes to its headers", L"and back to its rows"}) {
+        user.press(open_list(), VK_F6);
+        steps.expect(step, open_list() != nullptr);
+    }
     user.press(open_list(), VK_DOWN);
     user.press(open_list(), VK_RETURN);
     const std::wstring log = container.log().lines();

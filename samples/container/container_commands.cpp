@@ -131,7 +131,8 @@ bool ContainerWindow::takes(MSG& message) {
         copy_events();
         return true;
     }
-    if (TranslateAcceleratorW(window(), keys_, &message))
+    const bool to_headers = message.wParam == VK_F6 && !contains(message.hwnd); // within an open list
+    if (!to_headers && TranslateAcceleratorW(window(), keys_, &message))
         return true;
     if (contains(message.hwnd) && !surface_.contains(message.hwnd) &&
         (message.message == WM_LBUTTONDOWN || message.message == WM_KEYDOWN))
