@@ -51,6 +51,7 @@ void contain(std::vector<std::wstring> arguments, Steps* steps) {
     container.show();
     if (!arguments.empty())
         container.document().open(windows_path(arguments.front()));
+    container.refresh();
     if (steps)
         check_container(container, *steps);
     else

@@ -116,6 +116,14 @@ class ContainerTest(unittest.TestCase):
         self.expect("title", "paper.frm - Vellora test container")
         self.expect("said", "paper.frm is open.")
 
+    def test_a_form_of_the_command_line_is_opened(self):
+        path = os.path.join(self.folder.name, "given.frm")
+        with open(path, "w", encoding="utf-8") as file:
+            file.write("VERSION 5.00\nBegin VB.Form Given\nEnd\n")
+        sample = WatchedSample("container", TITLE, windows_path(path))
+        self.addCleanup(sample.close)
+        sample.expect_state("title", "given.frm - Vellora test container")
+
     def open_list_by_keys(self):
         xdotool("key", "F5")
         self.expect("mode", "run")
