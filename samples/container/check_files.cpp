@@ -142,6 +142,7 @@ void open_foreign(ContainerWindow& container, Answers& answers, const Folder& fo
                       static_cast<long>(container.surface().controls().size()));
     steps.expect(L"a frame stands for that control", container.surface().controls().front()->window() != nullptr);
     steps.expect(L"which the container says", says(container.said(), L"One control cannot be had here"));
+    steps.expect(L"with the reason", says(container.said(), L"Gauge1: Nowhere.Gauge is not registered."));
     container.surface().choose_next(false);
     container.grid().choose(L"Left");
     container.grid().edit();

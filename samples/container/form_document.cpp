@@ -14,9 +14,11 @@ std::wstring summary(const FormSurface& surface) {
     const auto missing = std::ranges::count_if(surface.controls(), [](const auto& one) { return !one->control(); });
     if (missing == 0)
         return {};
-    return missing == 1 ? L" One control cannot be had here; a frame stands in its place, and it is kept."
-                        : L" " + std::to_wstring(missing) +
-                              L" controls cannot be had here; frames stand in their places, and they are kept.";
+    const std::wstring kept =
+        missing == 1 ? L" One control cannot be had here; a frame stands in its place, and it is kept. "
+                     : L" " + std::to_wstring(missing) +
+                           L" controls cannot be had here; frames stand in their places, and they are kept. ";
+    return kept + surface.problem();
 }
 
 } // namespace

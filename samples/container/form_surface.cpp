@@ -107,6 +107,7 @@ void FormSurface::run(bool running) {
 void FormSurface::replace(const Form& form, bool running) {
     const std::u16string chosen = chosen_ ? chosen_->form().name : u"";
     clear();
+    problem_.clear();
     running_ = running;
     form_ = form;
     form_.controls.clear();
@@ -160,8 +161,11 @@ void FormSurface::show(PlacedControl& control, bool is_new) {
                       [this](const PlacedControl& one, const Event& event) { shell_.event_came(one, event); },
                       [this] { shell_.values_changed(!running_); }},
                      is_new);
-    if (!problem.empty())
-        shell_.say(control.name() + L": " + problem);
+    if (problem.empty())
+        return;
+    shell_.say(control.name() + L": " + problem);
+    if (problem_.empty())
+        problem_ = control.name() + L": " + problem;
 }
 
 void FormSurface::clear() {

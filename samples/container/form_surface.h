@@ -23,6 +23,8 @@ public:
     void load(const Form& form);
     /// As a save would write it; during a run the design that it began from.
     Form form() const;
+    /// Why the first control that cannot be had is not there; empty when all are.
+    const std::wstring& problem() const noexcept { return problem_; }
     bool running() const noexcept { return running_; }
     void run(bool running);
 
@@ -87,6 +89,7 @@ private:
     std::vector<std::unique_ptr<PlacedControl>> controls_;
     PlacedControl* chosen_ = nullptr;
     std::unique_ptr<Controls> hosted_;
+    std::wstring problem_;
     Handles handles_;
     DesignDrag drag_;
     HWND followed_ = nullptr; // the focus that was looked at last
