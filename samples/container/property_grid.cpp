@@ -34,10 +34,10 @@ HFONT bold_version(HFONT font) {
 
 PropertyGrid::PropertyGrid(HWND parent, Shell& shell, HFONT font)
     : Pane(parent, WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, WS_EX_CONTROLPARENT), shell_(shell),
-      bold_(bold_version(font)), label_(make_label(window(), L"Properties")), list_(make_list(window(), font)),
-      editor_(list_, font,
-              {[this] { return accept(); }, [this] { restore(); }, [this](int rows) { go(rows); },
-               [this] { SetFocus(list_); }}),
+      bold_(bold_version(font)), label_(make_label(window(), L"Properties", SS_ENDELLIPSIS)),
+      list_(make_list(window(), font)), editor_(list_, font,
+                                                {[this] { return accept(); }, [this] { restore(); },
+                                                 [this](int rows) { go(rows); }, [this] { SetFocus(list_); }}),
       // Rows are as high as the images beside them, and the field over a value needs room.
       spacer_(ImageList_Create(1, editor_.height(), ILC_COLOR, 1, 1)) {
     set_font(label_, font);

@@ -15,8 +15,8 @@ HWND make_child(HWND form, const wchar_t* window_class, const std::wstring& text
 
 } // namespace
 
-HWND make_label(HWND form, const std::wstring& text) {
-    return make_child(form, L"Static", text, SS_NOPREFIX);
+HWND make_label(HWND form, const std::wstring& text, DWORD style) {
+    return make_child(form, L"Static", text, SS_NOPREFIX | style);
 }
 
 HWND make_text_field(HWND form, const std::wstring& text, int id) {

@@ -6,7 +6,8 @@
 
 namespace vellora::samples {
 
-HWND make_label(HWND form, const std::wstring& text);
+/// `style` adds what labels have of their own.
+HWND make_label(HWND form, const std::wstring& text, DWORD style = 0);
 HWND make_text_field(HWND form, const std::wstring& text, int id);
 HWND make_button(HWND form, const std::wstring& text, int id);
 /// `style` adds what list boxes have of their own.
