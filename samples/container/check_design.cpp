@@ -36,6 +36,23 @@ void drag(ContainerWindow& container, POINT from, POINT by) {
     SendMessageW(form, WM_LBUTTONUP, 0, MAKELPARAM(from.x + by.x, from.y + by.y));
 }
 
+void check_view(FormSurface& surface, const User& user, Steps& steps) {
+    const HWND form = surface.window();
+    PlacedControl& control = *surface.controls().front();
+    const SIZE size = surface.size_in_twips();
+    const std::int32_t left = control.form().left;
+    surface.resize({15000, size.cy});
+    control.move_to(&FormControl::left, 12000);
+    surface.choose(nullptr);
+    user.press(form, VK_TAB);
+    RECT place = control.place(), room{};
+    MapWindowPoints(form, GetParent(form), reinterpret_cast<POINT*>(&place), 2);
+    GetClientRect(GetParent(form), &room);
+    steps.expect(L"Tab brings the control it chooses into view", place.left >= 0 && place.right <= room.right);
+    control.move_to(&FormControl::left, left);
+    surface.resize(size);
+}
+
 } // namespace
 
 void check_design(ContainerWindow& container, const User& user, Steps& steps) {
@@ -73,6 +90,7 @@ void check_design(ContainerWindow& container, const User& user, Steps& steps) {
     SetFocus(form);
     user.press(form, VK_DELETE);
     steps.expect_same(L"Del takes the chosen control away", 1, static_cast<long>(surface.controls().size()));
+    check_view(surface, user, steps);
 }
 
 void check_values(ContainerWindow& container, const User& user, Steps& steps) {

@@ -59,6 +59,7 @@ private:
     LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
     LRESULT handle_design(UINT message, WPARAM wparam, LPARAM lparam);
     bool design_key(WPARAM key);
+    void reveal_chosen() const;
     void press(POINT mouse);
     void begin_drag(POINT mouse, unsigned edges);
     void end_drag();

@@ -1,6 +1,7 @@
 // What the form's window hears: the mouse and the keys of a designer, and what a running form owes its controls.
 #include "form_surface.h"
 #include "form_units.h"
+#include "workspace.h"
 
 #include <windowsx.h>
 
@@ -90,6 +91,7 @@ bool FormSurface::design_key(WPARAM key) {
     switch (key) {
     case VK_TAB:
         choose_next(held(VK_SHIFT));
+        reveal_chosen();
         return true;
     case VK_DELETE:
         remove_chosen();
@@ -114,10 +116,19 @@ bool FormSurface::design_key(WPARAM key) {
             return true;
         chosen_->move(nudged(chosen_->place(), key, held(VK_SHIFT), held(VK_CONTROL)));
         place_changed();
+        reveal_chosen();
         shell_.values_changed(true);
         return true;
     }
     return false;
+}
+
+// Keys reach what is out of sight; under the mouse nothing is to move away.
+void FormSurface::reveal_chosen() const {
+    if (!chosen_)
+        return;
+    const RECT place = chosen_->place();
+    SendMessageW(GetParent(window()), reveal_message, 0, reinterpret_cast<LPARAM>(&place));
 }
 
 void FormSurface::press(POINT mouse) {

@@ -2,6 +2,8 @@
 
 #include "hosting/screen.h"
 
+#include <algorithm>
+
 namespace vellora::samples {
 
 namespace {
@@ -14,6 +16,11 @@ int position_of(HWND window, int bar) {
     info.fMask = SIF_POS;
     GetScrollInfo(window, bar, &info);
     return info.nPos;
+}
+
+/// How far to scroll until both ends are to be seen, or the first one.
+int missing(LONG from, LONG to, LONG room) {
+    return static_cast<int>(std::min(from, std::max(to - room, 0L)));
 }
 
 } // namespace
@@ -35,6 +42,9 @@ LRESULT Workspace::handle(UINT message, WPARAM wparam, LPARAM lparam) {
         return 0;
     case WM_MOUSEWHEEL:
         scroll(SB_VERT, GET_WHEEL_DELTA_WPARAM(wparam) > 0 ? SB_LINEUP : SB_LINEDOWN);
+        return 0;
+    case reveal_message:
+        reveal(*reinterpret_cast<const RECT*>(lparam));
         return 0;
     case WM_ERASEBKGND: {
         const RECT all = inside();
@@ -100,7 +110,21 @@ void Workspace::scroll(int bar, WPARAM request) {
         info.nPos = info.nTrackPos;
         break;
     }
+    go_to(bar, info.nPos);
+}
+
+void Workspace::reveal(RECT place) {
+    MapWindowPoints(form(), window(), reinterpret_cast<POINT*>(&place), 2);
+    const RECT room = inside();
+    go_to(SB_HORZ, position_of(window(), SB_HORZ) + missing(place.left, place.right, room.right));
+    go_to(SB_VERT, position_of(window(), SB_VERT) + missing(place.top, place.bottom, room.bottom));
+}
+
+void Workspace::go_to(int bar, int position) {
+    SCROLLINFO info{};
+    info.cbSize = sizeof info;
     info.fMask = SIF_POS;
+    info.nPos = position;
     SetScrollInfo(window(), bar, &info, TRUE);
     lay_out();
 }

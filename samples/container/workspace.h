@@ -5,6 +5,9 @@
 
 namespace vellora::samples {
 
+/// The form sends it: lparam is the RECT of its inside that is to be seen.
+constexpr UINT reveal_message = WM_APP + 5;
+
 class Workspace final : public Pane {
 public:
     explicit Workspace(HWND parent);
@@ -14,6 +17,8 @@ private:
     void lay_out();
     void set_range(int bar, int whole, int page);
     void scroll(int bar, WPARAM request);
+    void reveal(RECT place);
+    void go_to(int bar, int position);
     HWND form() const { return GetWindow(window(), GW_CHILD); }
 };
 
