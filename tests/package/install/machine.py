@@ -19,6 +19,7 @@ PATIENCE = 20.0
 
 CREATE = 'WScript.Echo CreateObject("VelloraCTL.Vellora").Version\r\n'
 
+
 def windows(path):
     """As a program of the machine names it: what lies on its own drive is not on that of the test bed."""
     drive = PREFIX / "drive_c"
@@ -31,6 +32,14 @@ def wine(*words, env=None):
     done = subprocess.run(command(*words), env=dict(os.environ, **(env or {})), stdin=subprocess.DEVNULL,
                           capture_output=True, text=True, encoding="utf-8", errors="replace", check=False)
     return done.returncode, done.stdout.replace("\r", "")
+
+
+def must(*words):
+    """Of a program that the test itself needs."""
+    done = subprocess.run(command(*words), stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+                          text=True, encoding="utf-8", errors="replace", check=False)
+    if done.returncode != 0:
+        raise AssertionError(f"{' '.join(words)} ended with {done.returncode}: {done.stdout}")
 
 
 def command(*words):
@@ -48,7 +57,7 @@ class Machine:
     def __init__(self, folder):
         self.folder = folder
         # Windows has this key from the beginning.
-        wine("reg.exe", "add", "HKCU\\Software\\Classes", "/f")
+        must("reg.exe", "add", "HKCU\\Software\\Classes", "/f")
         self.programs = PREFIX / "drive_c" / "Program Files"
         self.user = self._local_folder()
 
@@ -91,7 +100,7 @@ class Machine:
         path = self.folder / "classes.reg"
         text = ""
         for key in ("HKLM\\Software\\Classes", "HKCU\\Software"):
-            wine("reg.exe", "export", key, windows(path), "/y")
+            must("reg.exe", "export", key, windows(path), "/y")
             text += path.read_text(encoding="utf-16")
         return text
 
